@@ -1,0 +1,21 @@
+# One library a folder. Its includes start at the top of the project ("panel/control/View.h"), so
+# that a line of source shows which floor it reaches for.
+function(krx8_add_folder name)
+  cmake_parse_arguments(ARG "SHARED" "" "SOURCES;LINKS" ${ARGN})
+  if(ARG_SHARED)
+    add_library(${name} SHARED ${ARG_SOURCES})
+  else()
+    add_library(${name} STATIC ${ARG_SOURCES})
+  endif()
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ARG_LINKS})
+endfunction()
+
+# One test program, each of its tests known to ctest by name.
+function(krx8_add_tests name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT;PROPERTIES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gmock GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
+                       PROPERTIES TIMEOUT 120 ENVIRONMENT "${ARG_ENVIRONMENT}" ${ARG_PROPERTIES})
+endfunction()

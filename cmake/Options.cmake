@@ -1,0 +1,23 @@
+option(KRX8_TESTS "Build the tests" ON)
+option(KRX8_BENCH "Build the benchmarks" OFF)
+set(KRX8_SANITIZE "" CACHE STRING "Sanitizers, as in -fsanitize=")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+# Full debug information of the toolkit's headers doubles the build for nothing that a test needs.
+string(REPLACE "-g" "-g1" CMAKE_CXX_FLAGS_DEBUG "${CMAKE_CXX_FLAGS_DEBUG}")
+
+if(KRX8_SANITIZE)
+  add_compile_options(-fsanitize=${KRX8_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${KRX8_SANITIZE})
+endif()

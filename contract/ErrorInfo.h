@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+/// The description that a failing call may leave for its caller.
+///
+/// One text a thread, process wide: host, device service and panel link the same shared library, so
+/// that a description set in one is read in another. A failing operation sets it just before it
+/// returns, on the thread that made the call; the panel clears it before every call it makes and
+/// takes it into the report of the failure. None of the functions throws; a text for which there is
+/// no memory is dropped.
+namespace contract {
+
+/// Leaves a description (UTF-8) for the current thread, replacing the one there.
+void SetErrorInfo(const std::string& description) noexcept;
+
+/// Returns the current thread's description and clears it; empty when there is none.
+std::string TakeErrorInfo() noexcept;
+
+/// Clears the current thread's description.
+void ClearErrorInfo() noexcept;
+
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "contract/Status.h"
+
+#include <cstdint>
+
+namespace contract {
+
+/// Memory that is free on the device at the moment of GetFreeResources. User-interface thread only;
+/// results are untouched on failure.
+class IFreeResources {
+public:
+    virtual ~IFreeResources() = default;
+
+    virtual Status GetFreeRamSize(std::uint32_t& sizeBytes) = 0;
+    virtual Status GetFreeFlashSize(std::uint32_t& sizeBytes) = 0;
+};
+
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "contract/Status.h"
+#include "interception/FunctionRef.h"
+
+#include <functional>
+#include <string_view>
+
+namespace interception {
+
+/// What an operation delivers besides its status.
+enum class Delivers { Nothing, Value, Object };
+
+/// One operation of the contract.
+struct Operation {
+    /// Interface without its prefix letter, a dot, and the method: "FileListing.GetFileCount". A
+    /// literal, so that it lives for ever.
+    std::string_view name;
+    Delivers delivers;
+};
+
+/// What stands between a caller and every operation of the objects it was given.
+///
+/// Called on the thread of the caller (Call) or of the event's source (Deliver); may be called
+/// again from inside either.
+class IInterceptor {
+public:
+    virtual ~IInterceptor() = default;
+
+    /// Called in place of each operation; `run` performs it and must be called, if at all, before
+    /// Call returns, from any thread. An interceptor that returns a failure without calling `run`
+    /// makes the operation fail; one that returns success without calling it lets an operation that
+    /// delivers an object succeed with null.
+    virtual contract::Status Call(const Operation& operation,
+                                  FunctionRef<contract::Status()> run) = 0;
+
+    /// Called for each event on its way from its source to a sink. `deliver` owns copies of the
+    /// event's arguments, so it may be kept and called later, on another thread.
+    virtual contract::Status Deliver(const Operation&, std::function<contract::Status()> deliver) {
+        return deliver();
+    }
+};
+
+}

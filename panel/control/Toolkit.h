@@ -1,0 +1,72 @@
+#pragma once
+
+#include "panel/control/DialogTemplate.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace panel {
+
+class IDialogHandler;
+class IView;
+
+/// The window that a dialog or a help window belongs to.
+enum class Owner { None, Panel, PanelParent, ActiveWindow };
+
+/// How a toolkit verb that shows a window ended.
+struct DialogOutcome {
+    enum class Kind { Closed, Failed };
+
+    Kind kind = Kind::Closed;
+    /// Closed: the result given to EndDialog. Failed: the system's error number.
+    int code = 0;
+
+    static constexpr DialogOutcome Closed(int result) { return {Kind::Closed, result}; }
+    static constexpr DialogOutcome Failed(int error) { return {Kind::Failed, error}; }
+
+    friend constexpr bool operator==(const DialogOutcome&, const DialogOutcome&) = default;
+};
+
+/// What the panel needs of a toolkit besides the controls of a view. One toolkit object belongs to
+/// one panel, which owns it. Texts are UTF-8. User-interface thread only; the modal verbs run an
+/// event loop, so that device events reach the panel while they are open.
+class IToolkit {
+public:
+    virtual ~IToolkit() = default;
+
+    /// Builds the panel's view as a child of `nativeParent` (see contract/panel/Panel.h), calls the
+    /// handler's OnInit and returns it; null when no view can be made (OnInit is then not called).
+    /// The handler outlives the view.
+    virtual std::unique_ptr<IView> CreateView(const DialogTemplate& dialogTemplate,
+                                              void* nativeParent, IDialogHandler& handler) = 0;
+
+    /// Builds a modal dialog, calls the handler's OnInit and waits until EndDialog.
+    virtual DialogOutcome RunDialog(const DialogTemplate& dialogTemplate, IDialogHandler& handler,
+                                    Owner owner) = 0;
+
+    /// Shows a plain modal box without owner, with the icon and buttons of `style` (see
+    /// contract/host/MessageService.h), and returns the button pressed: 1 OK, 6 Yes, 7 No. Escape
+    /// answers No to a question. Texts are shown as they are, never as markup; CR LF and LF break
+    /// lines.
+    virtual std::int32_t ShowBox(const std::string& text, const std::string& caption,
+                                 std::uint32_t style) = 0;
+
+    /// Shows the wait cursor until the matching PopCursor. Calls nest.
+    virtual void PushWaitCursor() = 0;
+    virtual void PopCursor() = 0;
+
+    /// Opens the help viewer on `file` at a topic. A missing file is the viewer's own to report.
+    virtual void ShowHelp(const std::string& file, std::uint32_t context, Owner owner) = 0;
+
+    /// The folder that holds the component itself, without a trailing separator.
+    virtual std::string GetComponentFolder() const = 0;
+
+    /// Measures the font that views are made with.
+    virtual FontMetrics MeasureFont() const = 0;
+
+    /// Writes one diagnostic line, which ends in a newline. Called in debug builds only.
+    virtual void Trace(const std::string& line) = 0;
+};
+
+}
