@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# Shows that CheckIncludes.sh passes a sound tree and catches each kind of wrong include.
+set -u
+check=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)/CheckIncludes.sh
+tree=$(mktemp -d) || exit 2
+trap 'rm -rf "$tree"' EXIT
+
+failures=0
+expect() { # EXPECTED-STATUS FOLDER INCLUDE
+    mkdir -p "$tree"/{contract,interception,simulator,panel/control,frontend/headless,frontend/qt,workstation}
+    printf '#pragma once\n\n#include %s\n' "$3" >"$tree/$2/Probe.h"
+    local output status
+    output=$("$check" "$tree")
+    status=$?
+    rm -f "$tree/$2/Probe.h"
+    if [[ $status != "$1" ]] || { [[ $1 == 1 ]] && [[ $output != *"$2/Probe.h:3: "* ]]; }; then
+        echo "$2 including $3: expected status $1, got $status: $output"
+        failures=$((failures + 1))
+    fi
+}
+
+expect 0 contract '<string>'
+expect 0 contract '"contract/Status.h"'
+expect 0 simulator '"interception/Interceptor.h"'
+expect 0 simulator '<nlohmann/json.hpp>'
+expect 0 panel/control '"contract/panel/Panel.h"'
+expect 0 frontend/qt '<QWidget>'
+expect 0 workstation '"frontend/qt/QtPanel.h"'
+
+expect 1 contract '"panel/control/View.h"'
+expect 1 contract '<windows.h>'
+expect 1 contract '<QString>'
+expect 1 interception '"simulator/Host.h"'
+expect 1 simulator '"panel/control/View.h"'
+expect 1 simulator '<QString>'
+expect 1 panel/control '"interception/Interceptor.h"'
+expect 1 panel/control '"simulator/Host.h"'
+expect 1 panel/control '"frontend/qt/QtView.h"'
+expect 1 panel/control '<unistd.h>'
+expect 1 panel/control '<QWidget>'
+expect 1 panel/control '"View.h"'
+expect 1 frontend/headless '"frontend/qt/QtView.h"'
+expect 1 frontend/headless '<QWidget>'
+expect 1 frontend/qt '"frontend/headless/HeadlessView.h"'
+expect 1 frontend/qt '"simulator/Host.h"'
+expect 1 workstation '"tests/frontend/conformance/FrontEndDriver.h"'
+expect 1 panel/control 'HEADER_BY_MACRO'
+
+((failures == 0)) && echo "Sound includes pass, wrong ones are caught."
+exit $((failures > 0))
