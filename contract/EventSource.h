@@ -10,7 +10,8 @@ namespace contract {
 /// A source of the events of one event interface.
 ///
 /// User-interface thread only.
-template <class Events> class IEventSource {
+template <class Events>
+class IEventSource {
 public:
     virtual ~IEventSource() = default;
 
@@ -24,7 +25,8 @@ public:
 
 /// What an object that raises events answers when asked for its base: the place to look an event
 /// source up. A step of its own, since an object may have a base and yet offer no such source.
-template <class Events> class IBaseObject {
+template <class Events>
+class IBaseObject {
 public:
     virtual ~IBaseObject() = default;
 

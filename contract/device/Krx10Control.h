@@ -18,8 +18,8 @@ public:
     virtual ~IKrx10Control() = default;
 
     /// Delivers a new working copy of the network configuration. Untouched on failure.
-    virtual Status
-    GetCommunicationConfiguration(std::shared_ptr<IKrx10CommunicationConfiguration>& configuration) = 0;
+    virtual Status GetCommunicationConfiguration(
+        std::shared_ptr<IKrx10CommunicationConfiguration>& configuration) = 0;
 
     /// Formats a medium: every file on it is lost. Blocks until done; the device may leave Normal
     /// mode on the way.

@@ -22,7 +22,8 @@ public:
     virtual ~IProductDetection() = default;
 
     /// Asks for the switch; kNoSuchInterface when polling cannot be switched.
-    virtual Status QueryProductDetectionControl(std::shared_ptr<IProductDetectionControl>& control) = 0;
+    virtual Status
+    QueryProductDetectionControl(std::shared_ptr<IProductDetectionControl>& control) = 0;
 };
 
 /// The host's product information subsystem. User-interface thread only.

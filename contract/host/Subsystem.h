@@ -16,8 +16,8 @@ class ISubsystem {
 public:
     virtual ~ISubsystem() = default;
 
-    virtual Status QueryProgrammingDeviceSubsystem(
-        std::shared_ptr<IProgrammingDeviceSubsystem>& subsystem) = 0;
+    virtual Status
+    QueryProgrammingDeviceSubsystem(std::shared_ptr<IProgrammingDeviceSubsystem>& subsystem) = 0;
     virtual Status QueryProductInformation(std::shared_ptr<IProductInformation>& information) = 0;
 };
 

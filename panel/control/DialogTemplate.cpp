@@ -8,7 +8,9 @@ constexpr int kLetters = 52;
 constexpr int kUnitsPerAverageWidth = 4;
 constexpr int kUnitsPerHeight = 8;
 
-constexpr int DivideRounded(int dividend, int divisor) { return (2 * dividend + divisor) / (2 * divisor); }
+constexpr int DivideRounded(int dividend, int divisor) {
+    return (2 * dividend + divisor) / (2 * divisor);
+}
 
 }
 

@@ -8,7 +8,8 @@ using enum ControlKind;
 using enum InitialState;
 
 // Eleven rows of 16 units share the information group's 190: the first field at 18, so that the
-// last one ends 7 units above the frame. Labels stand 2 units lower to share their field's base line.
+// last one ends 7 units above the frame. Labels stand 2 units lower to share their field's base
+// line.
 constexpr int kFirstRow = 18;
 constexpr int kRowHeight = 16;
 

@@ -41,7 +41,8 @@ public:
 
     /// Returns `id` when the view has such a control, else kNoControl.
     virtual ControlId Capture(ControlId id) = 0;
-    /// For a group box its title. For the log and for lists: nothing (they have verbs of their own).
+    /// For a group box its title. For the log and for lists: nothing (they have verbs of their
+    /// own).
     virtual void SetText(ControlId id, std::string_view text) = 0;
     /// For the log: all of its text, lines ended by CR LF.
     virtual std::string GetText(ControlId id) const = 0;

@@ -1,0 +1,211 @@
+#include "panel/control/KRX8Maintenance.h"
+
+#include "contract/host/HostViewControl.h"
+#include "panel/control/Call.h"
+#include "panel/control/PanelLayout.h"
+#include "panel/control/PanelTemplate.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace panel {
+
+using contract::Status;
+
+namespace {
+
+constexpr ControlId kCapturedControls[] = {
+    kStatusLog,     kProgressGroup, kFileGroup,          kUpdateButton,      kDetailsButton,
+    kDeleteButton,  kReportButton,  kFileList,           kResetButton,       kHelpButton,
+    kCloseButton,   kNetworkButton, kInfoGroup,          kSerialNumberField, kHardwareField,
+    kBootSwField,   kFpgaField,     kApplicationSwField, kSelfTestField,     kIpAddressLabel,
+    kIpAddressField};
+
+std::uint16_t ToLength(int pixels) {
+    return static_cast<std::uint16_t>(
+        std::clamp(pixels, 0, int{std::numeric_limits<std::uint16_t>::max()}));
+}
+
+}
+
+std::shared_ptr<CKRX8Maintenance> CKRX8Maintenance::Create(std::unique_ptr<IToolkit> toolkit) {
+    return std::make_shared<CKRX8Maintenance>(Private{}, std::move(toolkit));
+}
+
+CKRX8Maintenance::CKRX8Maintenance(Private, std::unique_ptr<IToolkit> toolkit)
+    : m_toolkit(std::move(toolkit)),
+      m_output(m_view, *m_toolkit, Context()),
+      m_services{m_view, *m_toolkit, m_output, Device(), m_state},
+      m_help(*m_toolkit),
+      m_controls(m_view, m_state),
+      m_deviceEvents(m_services),
+      m_freeMemory(m_services),
+      m_information(m_services, m_freeMemory),
+      m_files(m_services),
+      m_fileKeys(m_services),
+      m_selfTests(m_services, m_help),
+      m_refresh(m_services, m_selfTests, m_information, m_files, m_updateCheck, m_controls),
+      m_typeReader(m_services, m_refresh) {}
+
+CKRX8Maintenance::~CKRX8Maintenance() { Detach(); }
+
+// The view
+
+Status CKRX8Maintenance::CreateView(void* nativeParent) {
+    if (m_hadView) {
+        return contract::kUnspecifiedFailure;
+    }
+    const auto self = Self();
+    m_ownedView = m_toolkit->CreateView(kPanelTemplate, nativeParent, *this);
+    m_hadView = m_ownedView != nullptr;
+    if (!m_hadView) {
+        return nativeParent ? contract::kUnspecifiedFailure : contract::kInvalidPointer;
+    }
+    return contract::kSuccess;
+}
+
+contract::PixelSize CKRX8Maintenance::GetNaturalSize() const {
+    const Size size = ToPixels(kPanelTemplate.size, m_toolkit->MeasureFont());
+    return {size.width, size.height};
+}
+
+void CKRX8Maintenance::Resize(contract::PixelSize size) {
+    const auto self = Self();
+    m_view->SetSize({ToLength(size.width), ToLength(size.height)});
+}
+
+void CKRX8Maintenance::DestroyView() {
+    const auto self = Self();
+    m_view.Detach();
+    m_ownedView.reset();
+}
+
+// Arrivals from the view
+
+void CKRX8Maintenance::Arrive(const Notification& notification) {
+    const auto self = Self();
+    Dispatch(*this, notification);
+}
+
+void CKRX8Maintenance::OnInit(IView& view) {
+    m_view.Attach(view);
+    Arrive({PanelEvent::Created});
+}
+
+void CKRX8Maintenance::OnCommand(ControlId id) {
+    Arrive({.event = PanelEvent::ButtonPressed, .source = id});
+}
+
+void CKRX8Maintenance::OnResized(Size size) {
+    Arrive({.event = PanelEvent::Resized, .size = size});
+}
+
+void CKRX8Maintenance::OnListKeyDown(ControlId list, std::uint16_t virtualKey) {
+    Arrive({.event = PanelEvent::ListKeyPressed, .source = list, .virtualKey = virtualKey});
+}
+
+void CKRX8Maintenance::OnListRightClick(ControlId list, Point screen) {
+    Arrive({.event = PanelEvent::ListRightClicked, .source = list, .screen = screen});
+}
+
+void CKRX8Maintenance::OnHelp(std::uint32_t context) {
+    Arrive({.event = PanelEvent::HelpRequested, .helpContext = context});
+}
+
+// Handlers of the command table
+
+void CKRX8Maintenance::OnViewCreated(const Notification&) { InitializePanel(); }
+
+void CKRX8Maintenance::OnViewResized(const Notification& notification) {
+    LayoutPanel(ToLength(notification.size.width), ToLength(notification.size.height));
+}
+
+void CKRX8Maintenance::OnHelpRequest(const Notification& notification) {
+    m_help.ShowHelp(notification.helpContext);
+}
+
+void CKRX8Maintenance::OnHelpButton(const Notification&) { m_help.ShowHelp(); }
+
+void CKRX8Maintenance::OnDetails(const Notification&) { m_selfTests.ShowDetails(); }
+
+void CKRX8Maintenance::OnFileListKey(const Notification& notification) {
+    m_fileKeys.OnFileListKeyDown(notification.virtualKey);
+}
+
+void CKRX8Maintenance::OnClose(const Notification&) { ClosePanel(); }
+
+bool CKRX8Maintenance::InitializePanel() {
+    std::shared_ptr<contract::IHostViewControl> viewControl;
+    if (Query(Context(), &contract::IContext::QueryHostViewControl, viewControl).IsFailure()) {
+        // Nobody could close this panel, so it is left as a bare view: nothing captured, no
+        // columns.
+        m_view->SetVisible(kCloseButton, false);
+        return false;
+    }
+    m_view.Capture(kCapturedControls);
+    m_view->SetTextLimit(m_view[kStatusLog], kNoTextLimit);
+    m_files.InsertColumns();
+    m_view->SetFocus(m_view[kUpdateButton]);
+    return true;
+}
+
+void CKRX8Maintenance::LayoutPanel(std::uint16_t width, std::uint16_t height) {
+    const auto placements =
+        LayOutControls({width, height}, m_view->GetClientSize(),
+                       [this](ControlId id) { return m_view->GetRectangle(m_view[id]); });
+    for (const Placement& placement : placements) {
+        m_view->Move(m_view[placement.id], placement.rectangle);
+    }
+}
+
+void CKRX8Maintenance::ClosePanel() {
+    std::shared_ptr<contract::IHostViewControl> viewControl;
+    if (Query(Context(), &contract::IContext::QueryHostViewControl, viewControl).IsSuccess()) {
+        static_cast<void>(Call(viewControl, &contract::IHostViewControl::ClosePanel));
+    }
+}
+
+// Host and device
+
+Status CKRX8Maintenance::Go() {
+    const auto self = Self();
+    bool isConnected = false;
+    const Status status =
+        Call(ConnectionState(), &contract::IConnectionState::IsConnected, isConnected);
+    if (status.IsSuccess() && isConnected) {
+        m_typeReader.ReadDeviceType();
+    }
+    return contract::kSuccess;
+}
+
+void CKRX8Maintenance::OnModeChanged(std::int32_t mode) { m_deviceEvents.OnModeChanged(mode); }
+
+void CKRX8Maintenance::OnDeviceMessage(const std::string& text, std::uint32_t done,
+                                       std::uint32_t total) {
+    m_deviceEvents.OnDeviceMessage(text, done, total);
+}
+
+void CKRX8Maintenance::OnConnectionStateChanged(Status status, std::int32_t state) {
+    OnConnectionEvent(status, state);
+    if (status.IsFailure()) {
+        return;
+    }
+    if (state == contract::kConnectionDeviceGone) {
+        OnDeviceDisconnected();
+    } else if (state == contract::kConnectionDeviceReady) {
+        OnDeviceConnected();
+    }
+}
+
+void CKRX8Maintenance::OnDeviceDisconnected() {
+    m_controls.EnableDeviceControls(false);
+    m_state.deviceMode = DeviceMode::NotYetKnown;
+}
+
+void CKRX8Maintenance::OnDeviceConnected() {
+    m_output.ClearStatusLog();
+    m_typeReader.ReadDeviceType();
+}
+
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "contract/host/Connection.h"
+#include "contract/panel/ConnectionClient.h"
+#include "panel/control/Call.h"
+#include "panel/device/KVL32ExtConnectionEvents.h"
+
+#include <memory>
+#include <mutex>
+#include <utility>
+
+namespace panel {
+
+/// Holds the host's connection and its event subscription, mixed into `Derived`, which offers
+/// Self(), OnAfterAttach() and OnBeforeDetach().
+///
+/// The lock guards the two references only. It is recursive because the connection is queried under
+/// it, and a host may call the panel back from there on the same thread.
+template <class Derived>
+class IConnectionClientImpl2 : public virtual contract::IConnectionClient {
+public:
+    contract::Status SetConnection(const std::shared_ptr<contract::IConnection>& connection) final {
+        if (connection != Connection()) {
+            Detach();
+            if (connection) {
+                Attach(connection);
+            }
+        }
+        return contract::kSuccess;
+    }
+
+    std::uint32_t ConnectionCookie() const {
+        return m_events ? m_events->Cookie() : contract::kNotSubscribed;
+    }
+
+protected:
+    ~IConnectionClientImpl2() = default;
+
+    std::shared_ptr<contract::IConnection> Connection() const {
+        const std::lock_guard lock(m_connectionLock);
+        return m_connection;
+    }
+
+    /// Null when there is no connection or it cannot tell its state.
+    std::shared_ptr<contract::IConnectionState> ConnectionState() const {
+        const std::lock_guard lock(m_connectionLock);
+        return m_connectionState;
+    }
+
+    void Detach() {
+        const std::shared_ptr<contract::IConnection> connection = Connection();
+        if (!connection) {
+            return;
+        }
+        static_cast<Derived*>(this)->OnBeforeDetach();
+        m_events->Disconnect(connection);
+        const std::lock_guard lock(m_connectionLock);
+        m_connection.reset();
+        m_connectionState.reset();
+    }
+
+private:
+    void Attach(const std::shared_ptr<contract::IConnection>& connection) {
+        {
+            const std::lock_guard lock(m_connectionLock);
+            m_connection = connection;
+            std::shared_ptr<contract::IConnectionState> state;
+            static_cast<void>(
+                Query(connection, &contract::IConnection::QueryConnectionState, state));
+            m_connectionState = state;
+        }
+        m_events = std::make_shared<CKVL32ExtConnectionEvents>(static_cast<Derived*>(this)->Self());
+        m_events->Connect(connection);
+        static_cast<Derived*>(this)->OnAfterAttach();
+    }
+
+    mutable std::recursive_mutex m_connectionLock;
+    std::shared_ptr<contract::IConnection> m_connection;
+    std::shared_ptr<contract::IConnectionState> m_connectionState;
+    std::shared_ptr<CKVL32ExtConnectionEvents> m_events;
+};
+
+}

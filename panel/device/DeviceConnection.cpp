@@ -1,0 +1,52 @@
+#include "panel/device/DeviceConnection.h"
+
+#include "contract/device/ProgrammingDeviceControl.h"
+#include "contract/device/ProgrammingDeviceSubsystem.h"
+#include "contract/host/Subsystem.h"
+#include "contract/host/SubsystemAccess.h"
+#include "panel/control/Call.h"
+#include "panel/device/ProgrammingDeviceControlEvents.h"
+
+#include <utility>
+
+namespace panel {
+
+using contract::Status;
+
+CDeviceConnection::~CDeviceConnection() {
+    if (m_control) {
+        m_events->Disconnect(m_control);
+    }
+}
+
+Status CDeviceConnection::ConnectToProgrammingDeviceSubsystem(
+    const std::shared_ptr<contract::ISubsystemAccess>& access,
+    std::shared_ptr<CProgrammingDeviceControlEvents> events) {
+    m_access = access;
+    if (m_control) {
+        return contract::kSuccess;
+    }
+    if (!m_subsystem) {
+        const Status status = ObtainSubsystem();
+        if (status.IsFailure()) {
+            return status;
+        }
+    }
+    m_events = std::move(events);
+    const Status status =
+        Call(m_subsystem, &contract::IProgrammingDeviceSubsystem::get_ProgrammingDeviceControl,
+             m_control);
+    return status.IsFailure() ? status : m_events->Connect(m_control);
+}
+
+Status CDeviceConnection::ObtainSubsystem() {
+    std::shared_ptr<contract::ISubsystem> subsystem;
+    const Status status = Call(m_access, &contract::ISubsystemAccess::GetSubsystem,
+                               contract::kProgrammingDeviceSubsystem, subsystem);
+    if (status.IsFailure()) {
+        return status;
+    }
+    return Query(subsystem, &contract::ISubsystem::QueryProgrammingDeviceSubsystem, m_subsystem);
+}
+
+}

@@ -1,0 +1,44 @@
+#include "panel/device/DeviceTypeReader.h"
+
+#include "contract/device/HardwareInfo.h"
+#include "contract/device/ProgrammingDeviceControl.h"
+#include "panel/control/Call.h"
+#include "panel/control/OutputArea.h"
+#include "panel/control/PanelState.h"
+#include "panel/control/StringTable.h"
+#include "panel/device/DeviceConnection.h"
+#include "panel/info/RefreshSequence.h"
+
+namespace panel {
+
+void CDeviceTypeReader::ReadDeviceType() {
+    const auto control = m_services.device.Control();
+    if (!control) {
+        return;
+    }
+    const std::string caption = LoadPanelString(StringId::PrommerMaintenance);
+    std::shared_ptr<contract::IHardwareInfo> hardware;
+    contract::Status status =
+        Obtain(control, &contract::IProgrammingDeviceControl::GetHardwareInfo, hardware);
+    if (status.IsFailure()) {
+        m_services.output.ReportError("Failed to read the Programming Device hardware info",
+                                      caption, status);
+        return;
+    }
+    auto type = static_cast<std::int32_t>(m_services.state.deviceType);
+    status = Call(hardware, &contract::IHardwareInfo::GetDeviceType, type);
+    if (status.IsFailure()) {
+        m_services.output.ReportError("Failed to read the Programming Device type", caption,
+                                      status);
+        return;
+    }
+    m_services.state.deviceType = static_cast<DeviceType>(type);
+    if (!IsKnown(m_services.state.deviceType)) {
+        m_services.output.ShowMessage("Wrong prommer type detected.", caption, contract::kSuccess,
+                                      "", kWarningStyle);
+        return;
+    }
+    m_refresh.RefreshDeviceInfo();
+}
+
+}
