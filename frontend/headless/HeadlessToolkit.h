@@ -1,0 +1,42 @@
+#pragma once
+
+#include "frontend/headless/HeadlessDesktop.h"
+#include "frontend/headless/HeadlessView.h"
+#include "panel/control/Toolkit.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace headless {
+
+/// A toolkit without a screen: prompts take their answers from the desktop's queue, and all that is
+/// shown is noted there. The font is 7 x 13 pixels, so that the panel is 788 x 478.
+class CHeadlessToolkit final : public panel::IToolkit {
+public:
+    CHeadlessToolkit();
+    explicit CHeadlessToolkit(std::shared_ptr<HeadlessDesktop> desktop);
+
+    /// Never null.
+    const std::shared_ptr<HeadlessDesktop>& Desktop() const { return m_desktop; }
+
+    /// `nativeParent` is ignored.
+    std::unique_ptr<panel::IView> CreateView(const panel::DialogTemplate& dialogTemplate,
+                                             void* nativeParent,
+                                             panel::IDialogHandler& handler) override;
+    panel::DialogOutcome RunDialog(const panel::DialogTemplate& dialogTemplate,
+                                   panel::IDialogHandler& handler, panel::Owner owner) override;
+    std::int32_t ShowBox(const std::string& text, const std::string& caption,
+                         std::uint32_t style) override;
+    void PushWaitCursor() override;
+    void PopCursor() override;
+    void ShowHelp(const std::string& file, std::uint32_t context, panel::Owner owner) override;
+    std::string GetComponentFolder() const override { return m_desktop->componentFolder; }
+    panel::FontMetrics MeasureFont() const override;
+    void Trace(const std::string& line) override;
+
+private:
+    std::shared_ptr<HeadlessDesktop> m_desktop;
+};
+
+}

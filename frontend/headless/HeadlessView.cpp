@@ -1,0 +1,245 @@
+#include "frontend/headless/HeadlessView.h"
+
+#include "frontend/headless/Utf8.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace headless {
+
+using panel::ControlId;
+using panel::kNoControl;
+
+CHeadlessView::CHeadlessView(const panel::DialogTemplate& dialogTemplate, panel::FontMetrics font,
+                             panel::IDialogHandler& handler, std::shared_ptr<CWindowStack> windows,
+                             ViewKind kind)
+    : m_template(dialogTemplate),
+      m_handler(handler),
+      m_windows(std::move(windows)),
+      m_kind(kind),
+      m_clientSize(panel::ToPixels(dialogTemplate.size, font)) {
+    m_controls.reserve(dialogTemplate.controls.size());
+    for (const panel::ControlTemplate& control : dialogTemplate.controls) {
+        m_controls.emplace_back(control, panel::ToPixels(control.rectangle, font));
+        if (control.id >= m_positions.size())
+            m_positions.resize(control.id + std::size_t{1});
+        m_positions[control.id] = static_cast<std::uint16_t>(m_controls.size());
+    }
+    kind == ViewKind::Panel ? m_windows->OpenPanel(*this) : m_windows->OpenDialog(*this);
+}
+
+CHeadlessView::~CHeadlessView() { m_windows->Close(*this); }
+
+ControlId CHeadlessView::Capture(ControlId id) {
+    if (!Find(id))
+        return kNoControl;
+    m_captures.push_back(id);
+    return id;
+}
+
+void CHeadlessView::SetText(ControlId id, std::string_view text) {
+    HeadlessControl* control = Find(id);
+    if (!control || control->IsLog() || control->list)
+        return;
+    control->text = text;
+    control->mnemonic = 0;
+}
+
+std::string CHeadlessView::GetText(ControlId id) const {
+    const HeadlessControl* control = Find(id);
+    return control ? ToShownText(control->text) : std::string();
+}
+
+void CHeadlessView::SetEnabled(ControlId id, bool enabled) {
+    HeadlessControl* control = Find(id);
+    if (!control)
+        return;
+    control->isEnabled = enabled;
+    enabled ? DeliverPendingFocus(*control) : WithdrawFocus(*control);
+}
+
+bool CHeadlessView::IsEnabled(ControlId id) const {
+    const HeadlessControl* control = Find(id);
+    return control && control->isEnabled;
+}
+
+void CHeadlessView::SetVisible(ControlId id, bool visible) {
+    HeadlessControl* control = Find(id);
+    if (!control)
+        return;
+    control->isVisible = visible;
+    visible ? DeliverPendingFocus(*control) : WithdrawFocus(*control);
+}
+
+bool CHeadlessView::IsVisible(ControlId id) const {
+    const HeadlessControl* control = Find(id);
+    return control && control->isVisible;
+}
+
+void CHeadlessView::SetFocus(ControlId id) {
+    const HeadlessControl* control = Find(id);
+    if (!control || !control->CanHaveFocus())
+        return;
+    m_pendingFocus = id;
+    DeliverPendingFocus(*control);
+}
+
+ControlId CHeadlessView::GetFocus() const {
+    return m_pendingFocus != kNoControl ? m_pendingFocus : m_focus;
+}
+
+void CHeadlessView::SetSize(panel::Size size) {
+    if (std::exchange(m_clientSize, size) != size)
+        m_handler.OnResized(size);
+}
+
+panel::Rectangle CHeadlessView::GetRectangle(ControlId id) const {
+    const HeadlessControl* control = Find(id);
+    return control ? control->rectangle : panel::Rectangle{};
+}
+
+void CHeadlessView::Move(ControlId id, const panel::Rectangle& rectangle) {
+    if (HeadlessControl* control = Find(id))
+        control->Move(rectangle);
+}
+
+void CHeadlessView::InsertColumn(ControlId id, int index, const panel::ListColumn& column) {
+    if (CHeadlessList* list = FindList(id))
+        list->InsertColumn(index, column);
+}
+
+int CHeadlessView::InsertRow(ControlId id, int index, std::string_view text) {
+    CHeadlessList* list = FindList(id);
+    return list ? list->InsertRow(index, text) : panel::kNoRow;
+}
+
+void CHeadlessView::SetCell(ControlId id, int row, int column, std::string_view text) {
+    if (CHeadlessList* list = FindList(id))
+        list->SetCell(row, column, text);
+}
+
+std::string CHeadlessView::GetCell(ControlId id, int row, int column) const {
+    const CHeadlessList* list = FindList(id);
+    return list ? list->GetCell(row, column) : std::string();
+}
+
+void CHeadlessView::SetRowKey(ControlId id, int row, std::uint32_t key) {
+    if (CHeadlessList* list = FindList(id))
+        list->SetRowKey(row, key);
+}
+
+std::uint32_t CHeadlessView::GetRowKey(ControlId id, int row) const {
+    const CHeadlessList* list = FindList(id);
+    return list ? list->GetRowKey(row) : 0;
+}
+
+void CHeadlessView::RemoveAllRows(ControlId id) {
+    if (CHeadlessList* list = FindList(id))
+        list->RemoveAllRows();
+}
+
+int CHeadlessView::GetRowCount(ControlId id) const {
+    const CHeadlessList* list = FindList(id);
+    return list ? list->GetRowCount() : 0;
+}
+
+void CHeadlessView::SelectRow(ControlId id, int row, bool selected) {
+    if (CHeadlessList* list = FindList(id))
+        list->SelectRow(row, selected);
+}
+
+std::vector<int> CHeadlessView::GetSelectedRows(ControlId id) const {
+    const CHeadlessList* list = FindList(id);
+    return list ? list->GetSelectedRows() : std::vector<int>();
+}
+
+void CHeadlessView::SetSelectionMark(ControlId id, int row) {
+    if (CHeadlessList* list = FindList(id))
+        list->SetSelectionMark(row);
+}
+
+int CHeadlessView::GetSelectionMark(ControlId id) const {
+    const CHeadlessList* list = FindList(id);
+    return list ? list->GetSelectionMark() : panel::kNoRow;
+}
+
+int CHeadlessView::GetFocusedRow(ControlId id) const {
+    const CHeadlessList* list = FindList(id);
+    return list ? list->GetFocusedRow() : panel::kNoRow;
+}
+
+void CHeadlessView::EnsureRowVisible(ControlId id, int row) {
+    if (CHeadlessList* list = FindList(id))
+        list->EnsureRowVisible(row);
+}
+
+void CHeadlessView::SetTextLimit(ControlId id, std::size_t characters) {
+    if (HeadlessControl* control = Find(id))
+        control->textLimit = characters;
+}
+
+void CHeadlessView::AppendLog(ControlId log, std::string_view text) {
+    HeadlessControl* control = Find(log);
+    if (control && control->IsLog())
+        control->text += text;
+}
+
+void CHeadlessView::ClearLog(ControlId log) {
+    HeadlessControl* control = Find(log);
+    if (control && control->IsLog())
+        control->text.clear();
+}
+
+void CHeadlessView::SetProgressRange(ControlId bar, int maximum) {
+    if (HeadlessControl* control = Find(bar)) {
+        control->progressMaximum = std::max(maximum, 0);
+        control->progressPosition = std::min(control->progressPosition, control->progressMaximum);
+    }
+}
+
+void CHeadlessView::SetProgressPosition(ControlId bar, int position) {
+    if (HeadlessControl* control = Find(bar))
+        control->progressPosition = std::clamp(position, 0, control->progressMaximum);
+}
+
+void CHeadlessView::EndDialog(int result) {
+    if (m_kind == ViewKind::Dialog)
+        m_result = result;
+}
+
+const HeadlessControl* CHeadlessView::Find(ControlId id) const {
+    const std::uint16_t position = id < m_positions.size() ? m_positions[id] : 0;
+    return position ? &m_controls[position - std::size_t{1}] : nullptr;
+}
+
+HeadlessControl* CHeadlessView::Find(ControlId id) {
+    return const_cast<HeadlessControl*>(std::as_const(*this).Find(id));
+}
+
+const CHeadlessList* CHeadlessView::FindList(ControlId id) const {
+    const HeadlessControl* control = Find(id);
+    return control ? control->list.get() : nullptr;
+}
+
+CHeadlessList* CHeadlessView::FindList(ControlId id) {
+    HeadlessControl* control = Find(id);
+    return control ? control->list.get() : nullptr;
+}
+
+void CHeadlessView::DeliverPendingFocus(const HeadlessControl& control) {
+    if (control.id != m_pendingFocus || !control.IsUsable())
+        return;
+    m_focus = control.id;
+    m_pendingFocus = kNoControl;
+}
+
+// A control that is merely switched off for a while gets the focus back afterwards.
+void CHeadlessView::WithdrawFocus(const HeadlessControl& control) {
+    if (control.id != m_focus)
+        return;
+    m_focus = kNoControl;
+    if (m_pendingFocus == kNoControl)
+        m_pendingFocus = control.id;
+}
+
+}

@@ -1,0 +1,150 @@
+#pragma once
+
+#include "frontend/headless/HeadlessControl.h"
+#include "frontend/headless/WindowStack.h"
+#include "panel/control/DialogHandler.h"
+#include "panel/control/DialogTemplate.h"
+#include "panel/control/View.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace headless {
+
+enum class ViewKind { Panel, Dialog };
+
+struct HeadlessProgress {
+    int maximum = 0;
+    int position = 0;
+
+    friend bool operator==(const HeadlessProgress&, const HeadlessProgress&) = default;
+};
+
+/// A view whose controls are kept in memory, with a user's hands and eyes beside the verbs.
+///
+/// Hands do what a user could do with the same window, and answer false without doing anything when
+/// a user could not: no such control, disabled, hidden, or another window open above this one. The
+/// view may be destroyed from inside them.
+class CHeadlessView final : public panel::IView {
+public:
+    /// Does not call the handler. The controls of the template, the handler and the windows outlive
+    /// the view.
+    CHeadlessView(const panel::DialogTemplate& dialogTemplate, panel::FontMetrics font,
+                  panel::IDialogHandler& handler, std::shared_ptr<CWindowStack> windows,
+                  ViewKind kind);
+    ~CHeadlessView() override;
+
+    // panel::IView
+
+    panel::ControlId Capture(panel::ControlId id) override;
+    void SetText(panel::ControlId id, std::string_view text) override;
+    std::string GetText(panel::ControlId id) const override;
+    void SetEnabled(panel::ControlId id, bool enabled) override;
+    bool IsEnabled(panel::ControlId id) const override;
+    void SetVisible(panel::ControlId id, bool visible) override;
+    bool IsVisible(panel::ControlId id) const override;
+    void SetFocus(panel::ControlId id) override;
+    panel::ControlId GetFocus() const override;
+
+    panel::Size GetClientSize() const override { return m_clientSize; }
+    void SetSize(panel::Size size) override;
+    panel::Rectangle GetRectangle(panel::ControlId id) const override;
+    void Move(panel::ControlId id, const panel::Rectangle& rectangle) override;
+
+    void InsertColumn(panel::ControlId list, int index, const panel::ListColumn& column) override;
+    int InsertRow(panel::ControlId list, int index, std::string_view text) override;
+    void SetCell(panel::ControlId list, int row, int column, std::string_view text) override;
+    std::string GetCell(panel::ControlId list, int row, int column) const override;
+    void SetRowKey(panel::ControlId list, int row, std::uint32_t key) override;
+    std::uint32_t GetRowKey(panel::ControlId list, int row) const override;
+    void RemoveAllRows(panel::ControlId list) override;
+    int GetRowCount(panel::ControlId list) const override;
+    void SelectRow(panel::ControlId list, int row, bool selected) override;
+    std::vector<int> GetSelectedRows(panel::ControlId list) const override;
+    void SetSelectionMark(panel::ControlId list, int row) override;
+    int GetSelectionMark(panel::ControlId list) const override;
+    int GetFocusedRow(panel::ControlId list) const override;
+    void EnsureRowVisible(panel::ControlId list, int row) override;
+
+    void SetTextLimit(panel::ControlId id, std::size_t characters) override;
+    void AppendLog(panel::ControlId log, std::string_view text) override;
+    void ClearLog(panel::ControlId log) override;
+
+    void SetProgressRange(panel::ControlId bar, int maximum) override;
+    void SetProgressPosition(panel::ControlId bar, int position) override;
+
+    void EndDialog(int result) override;
+
+    // Hands
+
+    bool Press(panel::ControlId button);
+    /// Alt and a letter: presses the button with that mnemonic.
+    bool PressMnemonic(char letter);
+    bool PressKeyInList(panel::ControlId list, std::uint16_t virtualKey);
+    bool ClickRow(panel::ControlId list, int row, Modifier modifier = Modifier::None);
+    /// kNoRow clicks the empty space below the rows.
+    bool RightClick(panel::ControlId list, int row);
+    /// F1.
+    void RequestHelp();
+    void PressTab();
+    /// In a dialog; nothing in another view.
+    void PressReturn();
+    /// Escape or the close box; likewise.
+    void PressEscape();
+    /// Gives the view a new size and reports it when it differs.
+    void ResizeClient(panel::Size size) { SetSize(size); }
+
+    // Eyes
+
+    const panel::DialogTemplate& Template() const { return m_template; }
+    /// The controls captured, in order.
+    const std::vector<panel::ControlId>& Captures() const { return m_captures; }
+    /// How often a control's frame has been computed anew.
+    int FrameComputations(panel::ControlId id) const;
+    std::size_t TextLimit(panel::ControlId id) const;
+    HeadlessProgress Progress(panel::ControlId bar) const;
+    /// The controls from the lowest to the topmost.
+    std::vector<panel::ControlId> StackingOrder() const;
+    std::vector<HeadlessColumn> Columns(panel::ControlId list) const;
+    bool IsRowInSight(panel::ControlId list, int row) const;
+    panel::Rectangle ScreenRectangle(panel::ControlId id) const;
+    /// The lines of the log, without their CR LF.
+    std::vector<std::string> LogLines(panel::ControlId log) const;
+    /// The result once EndDialog has been called.
+    std::optional<int> DialogResult() const { return m_result; }
+
+private:
+    const HeadlessControl* Find(panel::ControlId id) const;
+    HeadlessControl* Find(panel::ControlId id);
+    const CHeadlessList* FindList(panel::ControlId id) const;
+    CHeadlessList* FindList(panel::ControlId id);
+    /// The control when the user can use it now, else null.
+    HeadlessControl* FindUsable(panel::ControlId id);
+    CHeadlessList* EnterList(panel::ControlId id);
+    bool TakesInput() const;
+    void DeliverPendingFocus(const HeadlessControl& control);
+    void WithdrawFocus(const HeadlessControl& control);
+
+    panel::DialogTemplate m_template;
+    panel::IDialogHandler& m_handler;
+    std::shared_ptr<CWindowStack> m_windows;
+    ViewKind m_kind;
+    panel::Size m_clientSize;
+    std::vector<HeadlessControl> m_controls;
+    // Position + 1 in m_controls of each id, 0 for none: finding a control must not be felt when a
+    // list gets millions of cells.
+    std::vector<std::uint16_t> m_positions;
+    std::vector<panel::ControlId> m_captures;
+    panel::ControlId m_focus = panel::kNoControl;
+    // Was given the focus while it could not take it.
+    panel::ControlId m_pendingFocus = panel::kNoControl;
+    std::optional<int> m_result;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+}

@@ -1,0 +1,101 @@
+#include "frontend/headless/PromptQueue.h"
+
+#include "frontend/headless/HeadlessView.h"
+
+#include <utility>
+
+namespace headless {
+
+namespace {
+
+constexpr std::int32_t kEscape = 0; // no button at all
+constexpr std::int32_t kOk = 1;
+constexpr std::int32_t kYes = 6;
+constexpr std::int32_t kNo = 7;
+
+// The bits of a box's style that choose its buttons, and the choice of Yes and No (winuser.h).
+constexpr std::uint32_t kButtonsMask = 0xF;
+constexpr std::uint32_t kYesAndNo = 4;
+
+constexpr bool IsQuestion(std::uint32_t style) { return (style & kButtonsMask) == kYesAndNo; }
+
+constexpr bool CanAnswer(std::uint32_t style, std::int32_t button) {
+    if (button == kEscape)
+        return true;
+    return IsQuestion(style) ? button == kYes || button == kNo : button == kOk;
+}
+
+constexpr std::int32_t EscapeAnswer(std::uint32_t style) { return IsQuestion(style) ? kNo : kOk; }
+
+}
+
+void CPromptQueue::Answer(std::int32_t button, WhileOpen whileOpen) {
+    m_steps.push_back({Kind::Box, button, std::move(whileOpen), {}});
+}
+
+void CPromptQueue::AnswerWithEscape() { m_steps.push_back({Kind::Box, kEscape, {}, {}}); }
+
+void CPromptQueue::AnswerDialog(DialogScript script) {
+    m_steps.push_back({Kind::Dialog, 0, {}, std::move(script)});
+}
+
+void CPromptQueue::FailDialog(int code) { m_steps.push_back({Kind::DialogFailure, code, {}, {}}); }
+
+std::int32_t CPromptQueue::ShowBox(const std::string& text, const std::string& caption,
+                                   std::uint32_t style, CWindowStack& windows) {
+    const std::optional<Step> step = TakeBoxStep(style);
+    if (!step)
+        NoteUnexpected("box \"" + caption + "\": " + text);
+    const bool isButton = step && step->code != kEscape;
+    const std::int32_t answer = isButton ? step->code : EscapeAnswer(style);
+    m_boxes.push_back({text, caption, style, answer});
+    const CWindowStack::BoxScope isOpen(windows);
+    if (step && step->whileOpen)
+        step->whileOpen();
+    return answer;
+}
+
+std::optional<int> CPromptQueue::TakeDialogFailure(int templateId, panel::Owner owner) {
+    const std::optional<Step> step = TakeStep(Kind::DialogFailure);
+    if (!step)
+        return std::nullopt;
+    m_dialogs.push_back({templateId, owner, panel::DialogOutcome::Failed(step->code)});
+    return step->code;
+}
+
+int CPromptQueue::ActInDialog(CHeadlessView& view, panel::Owner owner) {
+    const std::size_t position = m_dialogs.size();
+    m_dialogs.push_back({view.Template().id, owner, {}});
+    // One that its own OnInit has ended never appears, so nobody answers it.
+    if (!view.DialogResult()) {
+        const std::optional<Step> step = TakeStep(Kind::Dialog);
+        if (!step)
+            NoteUnexpected("dialog " + std::to_string(view.Template().id));
+        else if (step->script)
+            step->script(view);
+        view.PressEscape();
+    }
+    const int result = view.DialogResult().value_or(panel::kCancelButton);
+    m_dialogs[position].outcome = panel::DialogOutcome::Closed(result);
+    return result;
+}
+
+std::optional<CPromptQueue::Step> CPromptQueue::TakeStep(Kind kind) {
+    if (m_steps.empty() || m_steps.front().kind != kind)
+        return std::nullopt;
+    Step step = std::move(m_steps.front());
+    m_steps.pop_front();
+    return step;
+}
+
+std::optional<CPromptQueue::Step> CPromptQueue::TakeBoxStep(std::uint32_t style) {
+    const bool fits = !m_steps.empty() && CanAnswer(style, m_steps.front().code);
+    return fits ? TakeStep(Kind::Box) : std::nullopt;
+}
+
+void CPromptQueue::NoteUnexpected(const std::string& prompt) {
+    if (m_isAttended)
+        m_unexpected.push_back(prompt);
+}
+
+}
