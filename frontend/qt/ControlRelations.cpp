@@ -1,0 +1,90 @@
+#include "frontend/qt/ControlRelations.h"
+
+#include "frontend/qt/Text.h"
+
+#include <QLabel>
+#include <QWidget>
+
+#include <algorithm>
+#include <vector>
+
+namespace qt {
+
+namespace {
+
+using panel::ControlKind;
+
+struct Control {
+    ControlKind kind;
+    QWidget* widget;
+};
+
+using Controls = std::vector<Control>;
+
+Controls FindControls(const panel::DialogTemplate& dialogTemplate, const QWidget& view) {
+    Controls controls;
+    for (const panel::ControlTemplate& control : dialogTemplate.controls) {
+        const QString name = QStringLiteral("control-%1").arg(control.id);
+        controls.push_back(
+            {control.kind, view.findChild<QWidget*>(name, Qt::FindDirectChildrenOnly)});
+    }
+    return controls;
+}
+
+// Only what overlaps is moved: the order of the children is also that of accessibility tools.
+void Stack(const Controls& controls) {
+    for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
+        const auto overlaps = [&](const Control& later) {
+            return later.widget->geometry().intersects(control->widget->geometry());
+        };
+        if (control->kind == ControlKind::GroupBox) {
+            control->widget->lower();
+        } else if (std::any_of(controls.rbegin(), control, overlaps)) {
+            control->widget->raise();
+        }
+    }
+}
+
+bool TakesFocus(ControlKind kind) {
+    switch (kind) {
+    case ControlKind::TextField:
+    case ControlKind::NumberField:
+    case ControlKind::MultiSelectList:
+    case ControlKind::SingleSelectList:
+    case ControlKind::Log:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void JoinBuddies(const Controls& controls) {
+    for (std::size_t i = 1; i < controls.size(); ++i) {
+        if (controls[i - 1].kind == ControlKind::Label && TakesFocus(controls[i].kind)) {
+            static_cast<QLabel*>(controls[i - 1].widget)->setBuddy(controls[i].widget);
+        }
+    }
+}
+
+void NameForAccessibility(const panel::DialogTemplate& dialogTemplate, const Controls& controls) {
+    QString title = ToQt(dialogTemplate.title);
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        if (controls[i].kind == ControlKind::GroupBox) {
+            title = ToQt(dialogTemplate.controls[i].text);
+        } else if (TakesFocus(controls[i].kind)) {
+            const bool hasLabel = i > 0 && controls[i - 1].kind == ControlKind::Label;
+            controls[i].widget->setAccessibleName(hasLabel ? QString() : title);
+        }
+    }
+}
+
+}
+
+void RelateControls(const panel::DialogTemplate& dialogTemplate, QWidget& view) {
+    const Controls controls = FindControls(dialogTemplate, view);
+    Stack(controls);
+    JoinBuddies(controls);
+    NameForAccessibility(dialogTemplate, controls);
+}
+
+}

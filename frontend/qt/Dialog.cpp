@@ -1,0 +1,37 @@
+#include "frontend/qt/Dialog.h"
+
+#include "frontend/qt/Text.h"
+#include "panel/control/DialogHandler.h"
+
+#include <QPointer>
+
+namespace qt {
+
+CDialog::CDialog(const panel::DialogTemplate& dialogTemplate, panel::IDialogHandler& handler,
+                 QWidget* owner)
+    : QDialog(owner),
+      m_handler(handler),
+      m_view(dialogTemplate, *this, handler, [this](int result) { End(result); }) {
+    setObjectName(QStringLiteral("dialog-%1").arg(dialogTemplate.id));
+    setWindowTitle(ToTitle(dialogTemplate.title));
+    setFixedSize(m_view.GetWidget()->size());
+}
+
+int CDialog::Run() {
+    const QPointer<CDialog> self(this);
+    m_handler.OnInit(m_view);
+    m_view.GetWidget()->show();
+    if (!m_result) {
+        exec();
+    }
+    return self && m_result ? *m_result : static_cast<int>(panel::kCancelButton);
+}
+
+void CDialog::reject() { m_view.SendCommand(panel::kCancelButton); }
+
+void CDialog::End(int result) {
+    m_result = result;
+    done(result);
+}
+
+}

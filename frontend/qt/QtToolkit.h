@@ -1,0 +1,45 @@
+#pragma once
+
+#include "panel/control/Toolkit.h"
+
+#include <QPointer>
+
+class QWidget;
+
+namespace qt {
+
+class CHelpWindow;
+
+/// The toolkit made of Qt widgets. Needs a QApplication that outlives it.
+class CQtToolkit final : public panel::IToolkit {
+public:
+    CQtToolkit() = default;
+    ~CQtToolkit() override;
+
+    /// `nativeParent` is a QWidget*. The view's widget is named "view-" and the template's id.
+    std::unique_ptr<panel::IView> CreateView(const panel::DialogTemplate& dialogTemplate,
+                                             void* nativeParent,
+                                             panel::IDialogHandler& handler) override;
+    panel::DialogOutcome RunDialog(const panel::DialogTemplate& dialogTemplate,
+                                   panel::IDialogHandler& handler, panel::Owner owner) override;
+    std::int32_t ShowBox(const std::string& text, const std::string& caption,
+                         std::uint32_t style) override;
+    void PushWaitCursor() override;
+    void PopCursor() override;
+    /// One window, used again.
+    void ShowHelp(const std::string& file, std::uint32_t context, panel::Owner owner) override;
+    std::string GetComponentFolder() const override;
+    /// The application's font; a parent with a font of its own gives its view that one.
+    panel::FontMetrics MeasureFont() const override;
+    /// To the standard error stream.
+    void Trace(const std::string& line) override;
+
+private:
+    QWidget* FindOwner(panel::Owner owner) const;
+
+    QPointer<QWidget> m_panelWidget;
+    QPointer<CHelpWindow> m_help;
+    int m_waitCursors = 0;
+};
+
+}

@@ -1,0 +1,256 @@
+#include "frontend/qt/QtView.h"
+
+#include "frontend/qt/ControlBuilder.h"
+#include "frontend/qt/ControlRelations.h"
+#include "frontend/qt/FocusMemory.h"
+#include "frontend/qt/Font.h"
+#include "frontend/qt/HandlerLink.h"
+#include "frontend/qt/HelpRequests.h"
+#include "frontend/qt/ListView.h"
+#include "frontend/qt/LogView.h"
+#include "frontend/qt/Text.h"
+#include "frontend/qt/ViewWidget.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <algorithm>
+#include <utility>
+
+namespace qt {
+
+namespace {
+
+using panel::ControlId;
+using panel::ControlKind;
+
+panel::Size SizeOf(const QWidget& widget) { return {widget.width(), widget.height()}; }
+
+void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
+    switch (kind) {
+    case ControlKind::GroupBox:
+        static_cast<QGroupBox&>(widget).setTitle(WithoutMnemonic(text));
+        break;
+    case ControlKind::Label:
+    case ControlKind::CentredLabel: {
+        auto& label = static_cast<QLabel&>(widget);
+        label.setText(label.buddy() ? WithoutMnemonic(text) : text);
+        break;
+    }
+    case ControlKind::TextField:
+    case ControlKind::NumberField:
+        static_cast<QLineEdit&>(widget).setText(text);
+        static_cast<QLineEdit&>(widget).setCursorPosition(0);
+        break;
+    case ControlKind::Button:
+    case ControlKind::DefaultButton:
+        static_cast<QPushButton&>(widget).setText(WithoutMnemonic(text));
+        break;
+    default:
+        break;
+    }
+}
+
+bool HasText(ControlKind kind) {
+    return kind != ControlKind::MultiSelectList && kind != ControlKind::SingleSelectList &&
+           kind != ControlKind::Log && kind != ControlKind::ProgressBar;
+}
+
+}
+
+CQtView::CQtView(const panel::DialogTemplate& dialogTemplate, QWidget& parent,
+                 panel::IDialogHandler& handler, std::function<void(int)> endDialog)
+    : m_widget(new CViewWidget(parent)),
+      m_link(std::make_shared<CHandlerLink>(handler)),
+      m_endDialog(std::move(endDialog)) {
+    m_widget->hide();
+    m_widget->setObjectName(QStringLiteral("view-%1").arg(dialogTemplate.id));
+    Build(dialogTemplate);
+    m_focus = new CFocusMemory(*m_widget);
+    new CHelpRequests(*m_widget, m_link);
+    m_widget->SetResizeListener([this] { ReportSize(); });
+}
+
+void CQtView::Build(const panel::DialogTemplate& dialogTemplate) {
+    const panel::Size size = ToPixels(dialogTemplate.size, MeasureFont(m_widget->font()));
+    m_widget->resize(size.width, size.height);
+    m_reportedSize = size;
+    for (const panel::ControlTemplate& control : dialogTemplate.controls) {
+        QWidget* const widget = BuildControl(control, *m_widget, m_link);
+        m_controls.emplace(control.id, Control{widget, control.kind, ToQt(control.text),
+                                               dynamic_cast<CListView*>(widget),
+                                               dynamic_cast<CLogView*>(widget)});
+    }
+    RelateControls(dialogTemplate, *m_widget);
+}
+
+// The widgets go later: one of them may be in the middle of the event that brought us here.
+CQtView::~CQtView() {
+    m_link->Cut();
+    if (m_widget) {
+        m_widget->SetResizeListener({});
+        m_widget->hide();
+        m_widget->setObjectName({});
+        m_widget->deleteLater();
+    }
+}
+
+QWidget* CQtView::GetWidget() const { return m_widget; }
+
+void CQtView::SendCommand(ControlId id) {
+    const std::shared_ptr<const CHandlerLink> link = m_link;
+    link->Notify(&panel::IDialogHandler::OnCommand, id);
+}
+
+ControlId CQtView::Capture(ControlId id) { return Find(id) ? id : panel::kNoControl; }
+
+void CQtView::SetText(ControlId id, std::string_view text) {
+    Control* const control = Find(id);
+    if (control && HasText(control->kind)) {
+        control->text = ToQt(text);
+        ShowText(*control->widget, control->kind, control->text);
+    }
+}
+
+std::string CQtView::GetText(ControlId id) const {
+    if (const CLogView* const log = FindLog(id)) {
+        return log->GetText();
+    }
+    const Control* const control = Find(id);
+    return control && HasText(control->kind) ? FromQt(control->text) : std::string();
+}
+
+void CQtView::SetEnabled(ControlId id, bool enabled) {
+    if (const Control* const control = Find(id)) {
+        control->widget->setEnabled(enabled);
+    }
+}
+
+bool CQtView::IsEnabled(ControlId id) const {
+    const Control* const control = Find(id);
+    return control && control->widget->isEnabledTo(m_widget);
+}
+
+void CQtView::SetVisible(ControlId id, bool visible) {
+    if (const Control* const control = Find(id)) {
+        control->widget->setVisible(visible);
+    }
+}
+
+bool CQtView::IsVisible(ControlId id) const {
+    const Control* const control = Find(id);
+    return control && !control->widget->isHidden();
+}
+
+void CQtView::SetFocus(ControlId id) {
+    if (const Control* const control = Find(id)) {
+        m_focus->Focus(*control->widget);
+    }
+}
+
+ControlId CQtView::GetFocus() const {
+    return m_widget ? GetControlId(m_focus->GetFocused()) : panel::kNoControl;
+}
+
+panel::Size CQtView::GetClientSize() const { return m_widget ? SizeOf(*m_widget) : panel::Size{}; }
+
+void CQtView::SetSize(panel::Size size) {
+    if (m_widget) {
+        m_widget->resize(size.width, size.height);
+        ReportSize();
+    }
+}
+
+panel::Rectangle CQtView::GetRectangle(ControlId id) const {
+    const Control* const control = Find(id);
+    if (!control) {
+        return {};
+    }
+    const QRect place = control->widget->geometry();
+    return {place.x(), place.y(), place.width(), place.height()};
+}
+
+void CQtView::Move(ControlId id, const panel::Rectangle& rectangle) {
+    if (const Control* const control = Find(id)) {
+        control->widget->setGeometry(rectangle.x, rectangle.y, rectangle.width, rectangle.height);
+        control->widget->update();
+    }
+}
+
+void CQtView::SetTextLimit(ControlId id, std::size_t characters) {
+    if (CLogView* const log = FindLog(id)) {
+        log->SetLimit(characters);
+    }
+}
+
+void CQtView::AppendLog(ControlId log, std::string_view text) {
+    if (CLogView* const found = FindLog(log)) {
+        found->Append(text);
+    }
+}
+
+void CQtView::ClearLog(ControlId log) {
+    if (CLogView* const found = FindLog(log)) {
+        found->Clear();
+    }
+}
+
+// A range of nothing would make the toolkit's bar run for ever.
+void CQtView::SetProgressRange(ControlId bar, int maximum) {
+    const Control* const control = Find(bar);
+    if (control && control->kind == ControlKind::ProgressBar) {
+        auto& progress = static_cast<QProgressBar&>(*control->widget);
+        const int position = progress.value();
+        progress.setRange(0, std::max(1, maximum));
+        progress.setValue(std::clamp(position, 0, progress.maximum()));
+    }
+}
+
+void CQtView::SetProgressPosition(ControlId bar, int position) {
+    const Control* const control = Find(bar);
+    if (control && control->kind == ControlKind::ProgressBar) {
+        auto& progress = static_cast<QProgressBar&>(*control->widget);
+        progress.setValue(std::clamp(position, 0, progress.maximum()));
+    }
+}
+
+void CQtView::EndDialog(int result) {
+    if (m_endDialog) {
+        m_endDialog(result);
+    }
+}
+
+const CQtView::Control* CQtView::Find(ControlId id) const {
+    const auto found = m_controls.find(id);
+    return m_widget && found != m_controls.end() ? &found->second : nullptr;
+}
+
+CQtView::Control* CQtView::Find(ControlId id) {
+    return const_cast<Control*>(std::as_const(*this).Find(id));
+}
+
+CListView* CQtView::FindList(ControlId id) const {
+    const Control* const control = Find(id);
+    return control ? control->list : nullptr;
+}
+
+CLogView* CQtView::FindLog(ControlId id) const {
+    const Control* const control = Find(id);
+    return control ? control->log : nullptr;
+}
+
+// A size set while the widget is hidden reaches it as an event only when it is shown; told at once
+// and once.
+void CQtView::ReportSize() {
+    const panel::Size size = SizeOf(*m_widget);
+    if (size != m_reportedSize) {
+        m_reportedSize = size;
+        const std::shared_ptr<const CHandlerLink> link = m_link;
+        link->Notify(&panel::IDialogHandler::OnResized, size);
+    }
+}
+
+}

@@ -1,0 +1,17 @@
+#include "frontend/qt/Text.h"
+
+namespace qt {
+
+QString ToQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::string FromQt(const QString& text) { return text.toStdString(); }
+
+QString WithoutMnemonic(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
+
+QString ToTitle(std::string_view text) {
+    return ToQt(text).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
+}
