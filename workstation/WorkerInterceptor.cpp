@@ -1,0 +1,92 @@
+#include "workstation/WorkerInterceptor.h"
+
+#include "workstation/DeviceCall.h"
+#include "workstation/InputDiscarder.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace workstation {
+
+namespace {
+
+class CDepthScope {
+public:
+    explicit CDepthScope(std::size_t& depth) : m_depth(++depth) {}
+    ~CDepthScope() { --m_depth; }
+    CDepthScope(const CDepthScope&) = delete;
+    CDepthScope& operator=(const CDepthScope&) = delete;
+
+private:
+    std::size_t& m_depth;
+};
+
+void DeliverEvents(CDeviceCall& call) {
+    // A device does not act on the result of a handler.
+    while (const auto event = call.TakeEvent())
+        static_cast<void>((*event)());
+}
+
+}
+
+CWorkerInterceptor::CWorkerInterceptor(ICallObserver& observer, Limits limits)
+    : m_observer(observer), m_limits(limits) {}
+
+CWorkerInterceptor::~CWorkerInterceptor() = default;
+
+contract::Status CWorkerInterceptor::Call(const interception::Operation& operation,
+                                          interception::FunctionRef<contract::Status()> run) {
+    if (std::this_thread::get_id() != m_callerThread)
+        return run();
+    CDeviceCall& call = CallAtDepth(m_depth);
+    const CDepthScope depth(m_depth);
+    call.Begin(run);
+    m_worker.Start(call);
+    if (Clock::now() - m_lastPaint > m_limits.paintInterval)
+        HandleEvents(false);
+    if (!call.Wait(m_limits.shortCall)) {
+        m_observer.CallLasts(operation);
+        WaitPainting(call);
+    }
+    DeliverEvents(call);
+    m_observer.CallReturned(operation);
+    return call.Finish();
+}
+
+contract::Status CWorkerInterceptor::Deliver(const interception::Operation&,
+                                             std::function<contract::Status()> deliver) {
+    CDeviceCall* const call = CWorker::CurrentCall();
+    if (!call)
+        return deliver();
+    call->AddEvent(std::move(deliver));
+    return contract::kSuccess;
+}
+
+CDeviceCall& CWorkerInterceptor::CallAtDepth(std::size_t depth) {
+    if (depth == m_calls.size()) {
+        QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
+        m_calls.push_back(std::make_unique<CDeviceCall>([dispatcher] { dispatcher->wakeUp(); }));
+    }
+    return *m_calls[depth];
+}
+
+void CWorkerInterceptor::WaitPainting(CDeviceCall& call) {
+    using namespace std::chrono_literals;
+    // The condition is the call's end and not the event loop's, which QApplication::exit ends
+    // early.
+    while (!call.Wait(0ms)) {
+        HandleEvents(true);
+        DeliverEvents(call);
+    }
+}
+
+void CWorkerInterceptor::HandleEvents(bool waitForMore) {
+    const CInputDiscarder discarder;
+    QCoreApplication::processEvents(waitForMore ? QEventLoop::WaitForMoreEvents
+                                                : QEventLoop::AllEvents);
+    m_lastPaint = Clock::now();
+}
+
+}
