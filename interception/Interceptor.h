@@ -8,34 +8,42 @@
 
 namespace interception {
 
-/// What an operation delivers besides its status.
+/// What an operation delivers besides its status. Nothing, one or more values, or one object.
 enum class Delivers { Nothing, Value, Object };
 
-/// One operation of the contract.
+/// Who implements an operation: the device service, or the host around it. For an event: who
+/// raises it.
+enum class Provider { Device, Host };
+
+/// One operation or event of the contract.
 struct Operation {
-    /// Interface without its prefix letter, a dot, and the method: "FileListing.GetFileCount". A
-    /// literal, so that it lives for ever.
+    /// Interface without its prefix, a dot, and the method: "FileListing.GetFileCount". The
+    /// operations of base objects and event sources carry the name of the event interface:
+    /// "ExtConnectionEvents.Subscribe". A literal, so that it lives for ever.
     std::string_view name;
     Delivers delivers;
+    Provider provider = Provider::Device;
 };
 
 /// What stands between a caller and every operation of the objects it was given.
 ///
 /// Called on the thread of the caller (Call) or of the event's source (Deliver); may be called
-/// again from inside either.
+/// again from inside either. Must not throw.
 class IInterceptor {
 public:
     virtual ~IInterceptor() = default;
 
-    /// Called in place of each operation; `run` performs it and must be called, if at all, before
-    /// Call returns, from any thread. An interceptor that returns a failure without calling `run`
-    /// makes the operation fail; one that returns success without calling it lets an operation that
-    /// delivers an object succeed with null.
+    /// Called in place of each operation; `run` performs it and must be called, if at all, once and
+    /// before Call returns, from any thread. An interceptor that returns a failure without calling
+    /// `run` makes the operation fail; one that returns success without calling it lets an
+    /// operation that delivers an object succeed with null. Values are written by `run` itself, so
+    /// an interceptor that turns a success into a failure afterwards leaves them written; an object
+    /// is withheld in that case.
     virtual contract::Status Call(const Operation& operation,
                                   FunctionRef<contract::Status()> run) = 0;
 
     /// Called for each event on its way from its source to a sink. `deliver` owns copies of the
-    /// event's arguments, so it may be kept and called later, on another thread.
+    /// event's arguments and holds the sink, so it may be kept and called later, on another thread.
     virtual contract::Status Deliver(const Operation&, std::function<contract::Status()> deliver) {
         return deliver();
     }
