@@ -10,7 +10,8 @@ namespace interception {
 
 /// Several interceptors as one, the first nearest to the panel: calls pass them from first to last,
 /// events, which come the other way, from last to first. Each sees what the one before it lets
-/// through. An empty chain lets everything happen.
+/// through. An empty chain lets everything happen. An event that a link keeps may be let go after
+/// the chain's end.
 class CInterceptorChain final : public IInterceptor {
 public:
     using Links = std::vector<std::shared_ptr<IInterceptor>>;
@@ -26,8 +27,7 @@ private:
     contract::Status CallFrom(std::size_t index, const Operation& operation,
                               FunctionRef<contract::Status()> run);
 
-    /// Shared with events under way, which a link may keep for longer than the chain lives.
-    const std::shared_ptr<const Links> m_links;
+    const Links m_links;
 };
 
 }
