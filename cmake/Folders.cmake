@@ -11,11 +11,16 @@ function(krx8_add_folder name)
   target_link_libraries(${name} PUBLIC ${ARG_LINKS})
 endfunction()
 
-# One test program, each of its tests known to ctest by name.
+# One test program, each of its tests known to ctest by name. A prefix keeps tests apart that several
+# programs share.
 function(krx8_add_tests name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT;PROPERTIES" ${ARGN})
+  cmake_parse_arguments(ARG "" "PREFIX" "SOURCES;LINKS;ENVIRONMENT;PROPERTIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gmock GTest::gtest_main)
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
-                       PROPERTIES TIMEOUT 120 ENVIRONMENT "${ARG_ENVIRONMENT}" ${ARG_PROPERTIES})
+  # An empty environment would make a variable of the property after it.
+  if(ARG_ENVIRONMENT)
+    list(APPEND ARG_PROPERTIES ENVIRONMENT "${ARG_ENVIRONMENT}")
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "${ARG_PREFIX}"
+                       PROPERTIES TIMEOUT 120 ${ARG_PROPERTIES})
 endfunction()
