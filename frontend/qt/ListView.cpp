@@ -1,11 +1,13 @@
 #include "frontend/qt/ListView.h"
 
 #include "frontend/qt/KeyCodes.h"
+#include "frontend/qt/Text.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -80,7 +82,7 @@ void CListView::SetCell(int row, int column, std::string_view text) {
 }
 
 std::string CListView::GetCell(int row, int column) const {
-    return HasCell(row, column) ? std::string(m_model.Rows().GetCell(row, column)) : std::string();
+    return HasCell(row, column) ? FromQt(ToQt(m_model.Rows().GetCell(row, column))) : std::string();
 }
 
 void CListView::SetRowKey(int row, std::uint32_t key) {
@@ -149,6 +151,25 @@ void CListView::EnsureRowVisible(int row) {
     if (HasRow(row)) {
         BringUpToDate();
         scrollTo(m_model.index(row, 0));
+    }
+}
+
+// A list is made of rows: where a table goes from cell to cell, it goes to the ends or scrolls.
+QModelIndex CListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const int column = std::max(0, currentIndex().column());
+    switch (action) {
+    case MoveHome:
+        return m_model.index(0, column);
+    case MoveEnd:
+        return m_model.index(m_model.rowCount() - 1, column);
+    case MoveLeft:
+        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
+        return currentIndex();
+    case MoveRight:
+        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
+        return currentIndex();
+    default:
+        return QTableView::moveCursor(action, modifiers);
     }
 }
 

@@ -46,6 +46,7 @@ public:
     void EnsureRowVisible(int row);
 
 protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(const QRect& rectangle, QItemSelectionModel::SelectionFlags command) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -54,6 +54,10 @@ void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
     }
 }
 
+bool HasMnemonic(ControlKind kind) {
+    return kind != ControlKind::TextField && kind != ControlKind::NumberField;
+}
+
 bool HasText(ControlKind kind) {
     return kind != ControlKind::MultiSelectList && kind != ControlKind::SingleSelectList &&
            kind != ControlKind::Log && kind != ControlKind::ProgressBar;
@@ -80,9 +84,11 @@ void CQtView::Build(const panel::DialogTemplate& dialogTemplate) {
     m_reportedSize = size;
     for (const panel::ControlTemplate& control : dialogTemplate.controls) {
         QWidget* const widget = BuildControl(control, *m_widget, m_link);
-        m_controls.emplace(control.id, Control{widget, control.kind, ToQt(control.text),
-                                               dynamic_cast<CListView*>(widget),
-                                               dynamic_cast<CLogView*>(widget)});
+        const QString text = ToQt(control.text);
+        m_controls.emplace(
+            control.id, Control{widget, control.kind,
+                                HasMnemonic(control.kind) ? WithoutMnemonicMark(text) : text,
+                                dynamic_cast<CListView*>(widget), dynamic_cast<CLogView*>(widget)});
     }
     RelateControls(dialogTemplate, *m_widget);
 }

@@ -16,6 +16,9 @@ std::string FromQt(const QString& text);
 /// `text` for a widget that takes "&" as the mark of a mnemonic: shown as it is, marking none.
 QString WithoutMnemonic(QString text);
 
+/// What the user reads of a text in which "&" marks the mnemonic.
+QString WithoutMnemonicMark(QString text);
+
 /// `text` as the title of a window, where the toolkit gives "[*]" a meaning of its own.
 QString ToTitle(std::string_view text);
 
