@@ -1,0 +1,31 @@
+#pragma once
+
+#include "simulator/DescriptionError.h"
+#include "simulator/DeviceDescription.h"
+
+#include <filesystem>
+#include <memory>
+#include <variant>
+#include <vector>
+
+/// Devices as folders: a description `device.json` and the stored files in `files`. The format is
+/// described in docs/device-folder.md.
+namespace simulator {
+
+class CDevice;
+
+/// Reads the description of the device in `folder`, with the sizes of its stored files. Refuses a
+/// description that is wrong in any way: the first error found is returned. Writes nothing.
+std::variant<DeviceDescription, DescriptionError>
+ReadDeviceFolder(const std::filesystem::path& folder);
+
+/// The device in `folder`, or why there is none. Writes nothing. Until the simulator stores
+/// changes, what happens to the device is forgotten with it.
+std::variant<std::shared_ptr<CDevice>, DescriptionError>
+OpenDevice(const std::filesystem::path& folder);
+
+/// The folders directly under `root` that hold a `device.json`, good or bad, sorted by name. None
+/// when `root` cannot be read.
+std::vector<std::filesystem::path> ListDevices(const std::filesystem::path& root);
+
+}

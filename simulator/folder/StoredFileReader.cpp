@@ -1,0 +1,101 @@
+#include "simulator/folder/StoredFileReader.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <fstream>
+#include <limits>
+#include <map>
+#include <string>
+#include <system_error>
+#include <utility>
+
+namespace simulator {
+
+namespace {
+
+using Path = std::filesystem::path;
+
+constexpr NamedValue kTypes[] = {{"secondaryBoot", 19}, {"algorithm", 21}, {"mcuSoftware", 22}};
+constexpr NamedValue kLocations[] = {{"RAM", kInRam}, {"Flash", kInFlash}, {"PCCard", kOnPcCard}};
+constexpr NamedValue kGenerations[] = {{"none", 0}, {"QX1", 3}, {"QX2", 4}, {"QX3", 5}};
+
+/// Remembers who was the first with each key.
+template <class Key>
+class CFirstUse {
+public:
+    /// Null when `key` is new, else the name of its first user.
+    const std::string* Claim(const Key& key, std::string name) {
+        const auto [entry, isNew] = m_names.emplace(key, std::move(name));
+        return isNew ? nullptr : &entry->second;
+    }
+
+private:
+    std::map<Key, std::string> m_names;
+};
+
+bool IsPlainFileName(const std::string& name) {
+    return !name.empty() && name != "." && name != ".." &&
+           name.find_first_of(std::string_view("/\\\0", 3)) == std::string::npos;
+}
+
+std::int32_t ReadSize(const CDescriptionNode& node, const Path& folder, const std::string& name) {
+    const auto path = folder / "files" / name;
+    const auto refuse = [&](const std::string& reason) {
+        node.Refuse("is stored in files/" + name + ", which " + reason);
+    };
+    std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    if (status.type() == std::filesystem::file_type::not_found)
+        refuse("is missing");
+    if (error)
+        refuse("cannot be read: " + error.message());
+    if (!std::filesystem::is_regular_file(status))
+        refuse("is not a plain file");
+    const auto size = std::filesystem::file_size(path, error);
+    if (error || !std::ifstream(path, std::ios::binary))
+        refuse("cannot be read: " +
+               (error ? error : std::error_code(errno, std::generic_category())).message());
+    if (size > static_cast<std::uintmax_t>(std::numeric_limits<std::int32_t>::max()))
+        refuse("is larger than 2147483647 bytes");
+    return static_cast<std::int32_t>(size);
+}
+
+StoredFile ReadStoredFile(const CDescriptionNode& node) {
+    node.ExpectKeys({"name", "type", "id", "version", "location", "generation", "content"});
+    StoredFile file;
+    file.name = node.Member("name").Text();
+    file.type = node.Member("type").NameOrNumber<std::int32_t>(kTypes);
+    file.id = node.Member("id").WholeNumberOf<std::int32_t>();
+    file.version = node.OptionalText("version");
+    file.location = node.Member("location").NameOrNumber<std::int32_t>(kLocations);
+    if (const auto generation = node.OptionalMember("generation"))
+        file.generation = generation->NameOrNumber<std::uint32_t>(kGenerations);
+    const auto content = node.OptionalMember("content");
+    file.content = content ? content->Text() : file.name;
+    if (!IsPlainFileName(file.content))
+        (content ? *content : node.Member("name"))
+            .Refuse(content ? "must be a plain file name"
+                            : "is no plain file name, so that \"content\" must give one");
+    return file;
+}
+
+}
+
+std::vector<StoredFile> ReadStoredFiles(const CDescriptionNode& list, const Path& folder) {
+    std::vector<StoredFile> files;
+    CFirstUse<std::pair<std::int32_t, std::int32_t>> addresses;
+    CFirstUse<std::string> contents;
+    list.ForEachElement([&](const CDescriptionNode& node) {
+        auto file = ReadStoredFile(node);
+        // The panel addresses a file by its type and the low 16 bits of its identifier.
+        if (const auto* first = addresses.Claim({file.type, file.id & 0xFFFF}, node.Name()))
+            node.Refuse("has the type and the identifier (low 16 bits) of \"" + *first + '"');
+        if (const auto* first = contents.Claim(file.content, node.Name()))
+            node.Refuse("has the content of \"" + *first + '"');
+        file.sizeBytes = ReadSize(node, folder, file.content);
+        files.push_back(std::move(file));
+    });
+    return files;
+}
+
+}
