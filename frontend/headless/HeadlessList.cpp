@@ -51,20 +51,8 @@ int CHeadlessList::InsertRow(int index, std::string_view text) {
     return index;
 }
 
-void CHeadlessList::SetCell(int row, int column, std::string_view text) {
-    if (HasRow(row) && column >= 0 && column < static_cast<int>(m_columns.size()))
-        m_rows.SetCell(row, column, text);
-}
-
 std::string CHeadlessList::GetCell(int row, int column) const {
-    if (!HasRow(row) || column < 0 || column >= static_cast<int>(m_columns.size()))
-        return {};
-    return ToShownText(m_rows.Cell(row, column));
-}
-
-void CHeadlessList::SetRowKey(int row, std::uint32_t key) {
-    if (HasRow(row))
-        m_rows.SetKey(row, key);
+    return HasRow(row) && HasColumn(column) ? ToShownText(m_rows.Cell(row, column)) : std::string();
 }
 
 std::uint32_t CHeadlessList::GetRowKey(int row) const { return HasRow(row) ? m_rows.Key(row) : 0; }

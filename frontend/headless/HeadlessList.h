@@ -27,9 +27,15 @@ public:
 
     void InsertColumn(int index, const panel::ListColumn& column);
     int InsertRow(int index, std::string_view text);
-    void SetCell(int row, int column, std::string_view text);
+    void SetCell(int row, int column, std::string_view text) {
+        if (HasRow(row) && HasColumn(column))
+            m_rows.SetCell(row, column, text);
+    }
     std::string GetCell(int row, int column) const;
-    void SetRowKey(int row, std::uint32_t key);
+    void SetRowKey(int row, std::uint32_t key) {
+        if (HasRow(row))
+            m_rows.SetKey(row, key);
+    }
     std::uint32_t GetRowKey(int row) const;
     void RemoveAllRows();
     int GetRowCount() const { return m_rows.Count(); }
@@ -58,6 +64,9 @@ public:
     void PressKey(std::uint16_t virtualKey);
 
 private:
+    bool HasColumn(int column) const {
+        return column >= 0 && column < static_cast<int>(m_columns.size());
+    }
     void SelectOnly(int row);
     void DeselectAll();
 

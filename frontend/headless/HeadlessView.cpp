@@ -21,11 +21,19 @@ CHeadlessView::CHeadlessView(const panel::DialogTemplate& dialogTemplate, panel:
     m_controls.reserve(dialogTemplate.controls.size());
     for (const panel::ControlTemplate& control : dialogTemplate.controls) {
         m_controls.emplace_back(control, panel::ToPixels(control.rectangle, font));
-        if (control.id >= m_positions.size())
-            m_positions.resize(control.id + std::size_t{1});
-        m_positions[control.id] = static_cast<std::uint16_t>(m_controls.size());
+        Register(m_controls.back());
     }
     kind == ViewKind::Panel ? m_windows->OpenPanel(*this) : m_windows->OpenDialog(*this);
+}
+
+void CHeadlessView::Register(HeadlessControl& control) {
+    if (control.id == kNoControl)
+        return;
+    const std::size_t slots = std::max(m_controlsById.size(), control.id + std::size_t{1});
+    m_controlsById.resize(slots);
+    m_lists.resize(slots);
+    m_controlsById[control.id] = &control;
+    m_lists[control.id] = control.list.get();
 }
 
 CHeadlessView::~CHeadlessView() { m_windows->Close(*this); }
@@ -208,22 +216,11 @@ void CHeadlessView::EndDialog(int result) {
 }
 
 const HeadlessControl* CHeadlessView::Find(ControlId id) const {
-    const std::uint16_t position = id < m_positions.size() ? m_positions[id] : 0;
-    return position ? &m_controls[position - std::size_t{1}] : nullptr;
+    return id < m_controlsById.size() ? m_controlsById[id] : nullptr;
 }
 
 HeadlessControl* CHeadlessView::Find(ControlId id) {
-    return const_cast<HeadlessControl*>(std::as_const(*this).Find(id));
-}
-
-const CHeadlessList* CHeadlessView::FindList(ControlId id) const {
-    const HeadlessControl* control = Find(id);
-    return control ? control->list.get() : nullptr;
-}
-
-CHeadlessList* CHeadlessView::FindList(ControlId id) {
-    HeadlessControl* control = Find(id);
-    return control ? control->list.get() : nullptr;
+    return id < m_controlsById.size() ? m_controlsById[id] : nullptr;
 }
 
 void CHeadlessView::DeliverPendingFocus(const HeadlessControl& control) {

@@ -119,10 +119,12 @@ public:
     std::optional<int> DialogResult() const { return m_result; }
 
 private:
+    void Register(HeadlessControl& control);
     const HeadlessControl* Find(panel::ControlId id) const;
     HeadlessControl* Find(panel::ControlId id);
-    const CHeadlessList* FindList(panel::ControlId id) const;
-    CHeadlessList* FindList(panel::ControlId id);
+    CHeadlessList* FindList(panel::ControlId id) const {
+        return id < m_lists.size() ? m_lists[id] : nullptr;
+    }
     /// The control when the user can use it now, else null.
     HeadlessControl* FindUsable(panel::ControlId id);
     CHeadlessList* EnterList(panel::ControlId id);
@@ -136,9 +138,10 @@ private:
     ViewKind m_kind;
     panel::Size m_clientSize;
     std::vector<HeadlessControl> m_controls;
-    // Position + 1 in m_controls of each id, 0 for none: finding a control must not be felt when a
-    // list gets millions of cells.
-    std::vector<std::uint16_t> m_positions;
+    // By id; null where there is none. Finding a list must not be felt when it gets millions of
+    // cells.
+    std::vector<HeadlessControl*> m_controlsById;
+    std::vector<CHeadlessList*> m_lists;
     std::vector<panel::ControlId> m_captures;
     panel::ControlId m_focus = panel::kNoControl;
     // Was given the focus while it could not take it.

@@ -1,6 +1,5 @@
 #include "frontend/headless/PackedRows.h"
 
-#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <utility>
@@ -13,58 +12,71 @@ namespace {
 constexpr unsigned char kLongCell = 0xFF;
 constexpr std::size_t kCompactFrom = 64 * 1024;
 
-std::string_view NextCell(std::string_view& cells) {
-    std::size_t length = static_cast<unsigned char>(cells.front());
-    std::size_t prefix = 1;
+std::string_view NextCell(const char*& cells) {
+    std::size_t length = static_cast<unsigned char>(*cells++);
     if (length == kLongCell) {
         std::uint32_t longLength = 0;
-        std::memcpy(&longLength, cells.data() + 1, sizeof longLength);
+        std::memcpy(&longLength, cells, sizeof longLength);
+        cells += sizeof longLength;
         length = longLength;
-        prefix += sizeof longLength;
     }
-    const std::string_view cell = cells.substr(prefix, length);
-    cells.remove_prefix(prefix + length);
-    return cell;
+    return {std::exchange(cells, cells + length), length};
+}
+
+std::string_view CellsOf(const char* begin, int count) {
+    const char* end = begin;
+    for (int cell = 0; cell < count; ++cell)
+        NextCell(end);
+    return {begin, end};
+}
+
+char* WriteLongLength(char* place, std::size_t size) {
+    const auto length = static_cast<std::uint32_t>(size);
+    *place++ = static_cast<char>(kLongCell);
+    std::memcpy(place, &length, sizeof length);
+    return place + sizeof length;
 }
 
 }
 
 void CPackedRows::Insert(int index, std::string_view firstCell) {
-    m_rows.insert(m_rows.begin() + index, Row{m_bytes.size()});
-    m_openRow = index;
-    AppendCellTo(At(index), firstCell);
+    if (index == Count())
+        m_rows.emplace_back();
+    else
+        m_rows.insert(m_rows.begin() + index, Row{});
+    Open(index);
+    AppendCell(*m_open, firstCell);
 }
 
 void CPackedRows::Clear() {
-    m_bytes.clear();
+    m_text.Clear();
     m_rows.clear();
     m_openRow = -1;
+    m_open = nullptr;
     m_unusedBytes = 0;
 }
 
-void CPackedRows::SetCell(int row, int column, std::string_view text) {
+void CPackedRows::ChangeCell(int row, int column, std::string_view text) {
     Row& target = At(row);
     if (column < target.cellCount) {
-        ReplaceCell(row, column, text);
+        Rewrite(row, target.cellCount, [&](int cell, const char*& old) {
+            const std::string_view kept = NextCell(old);
+            return cell == column ? text : kept;
+        });
         return;
     }
-    if (row != m_openRow) {
-        const std::string cells = TakeBytes(row);
-        target.begin = m_bytes.size();
-        m_bytes += cells;
-        m_openRow = row;
-    }
+    if (row != m_openRow)
+        OpenAtEnd(row);
     while (target.cellCount < column)
-        AppendCellTo(target, {});
-    AppendCellTo(target, text);
-    CompactWhenWorthwhile();
+        AppendCell(target, {});
+    AppendCell(target, text);
 }
 
 std::string_view CPackedRows::Cell(int row, int column) const {
     const Row& source = At(row);
     if (column >= source.cellCount)
         return {};
-    std::string_view cells = std::string_view(m_bytes).substr(source.begin);
+    const char* cells = source.cells;
     for (int skipped = 0; skipped < column; ++skipped)
         NextCell(cells);
     return NextCell(cells);
@@ -74,80 +86,77 @@ void CPackedRows::InsertColumn(int index) {
     for (int row = 0; row < Count(); ++row) {
         if (index >= At(row).cellCount)
             continue;
-        const std::string taken = TakeBytes(row);
-        std::string_view cells = taken;
-        Row& target = At(row);
-        target.begin = m_bytes.size();
-        m_openRow = row;
-        const int count = std::exchange(target.cellCount, std::uint16_t{0}) + 1;
-        for (int column = 0; column < count; ++column)
-            AppendCellTo(target, column == index ? std::string_view() : NextCell(cells));
+        Rewrite(row, At(row).cellCount + 1, [&](int cell, const char*& old) {
+            return cell == index ? std::string_view() : NextCell(old);
+        });
     }
-    CompactWhenWorthwhile();
 }
 
-std::string_view CPackedRows::BytesOf(int row) const {
-    const std::string_view bytes = std::string_view(m_bytes).substr(At(row).begin);
-    std::string_view rest = bytes;
-    for (int column = 0; column < At(row).cellCount; ++column)
-        NextCell(rest);
-    return bytes.substr(0, bytes.size() - rest.size());
-}
-
-void CPackedRows::AppendCell(std::string_view text) {
+void CPackedRows::AppendCell(Row& row, std::string_view text) {
     if (text.size() < kLongCell) {
-        m_bytes.push_back(static_cast<char>(text.size()));
+        char* const place = m_text.Extend(1 + text.size());
+        *place = static_cast<char>(text.size());
+        text.copy(place + 1, text.size());
     } else {
         text = text.substr(0, std::numeric_limits<std::uint32_t>::max());
-        const auto length = static_cast<std::uint32_t>(text.size());
-        m_bytes.push_back(static_cast<char>(kLongCell));
-        m_bytes.append(reinterpret_cast<const char*>(&length), sizeof length);
+        char* const place = m_text.Extend(1 + sizeof(std::uint32_t) + text.size());
+        text.copy(WriteLongLength(place, text.size()), text.size());
     }
-    m_bytes.append(text);
-}
-
-void CPackedRows::AppendCellTo(Row& row, std::string_view text) {
-    AppendCell(text);
+    row.cells = m_text.Block();
     ++row.cellCount;
 }
 
-// The cells of a row that is about to be written anew at the buffer's end.
-std::string CPackedRows::TakeBytes(int row) {
-    std::string taken(BytesOf(row));
-    if (row == m_openRow)
-        m_bytes.resize(At(row).begin);
-    else
+void CPackedRows::Open(int row) {
+    m_text.OpenBlock();
+    m_openRow = row;
+    m_open = &At(row);
+}
+
+void CPackedRows::OpenAtEnd(int row) {
+    Rewrite(row, At(row).cellCount, [](int, const char*& old) { return NextCell(old); });
+}
+
+// The cells of a row that is about to be written anew as the open block.
+std::string CPackedRows::TakeCells(int row) {
+    std::string taken(CellsOf(At(row).cells, At(row).cellCount));
+    if (row == m_openRow) {
+        m_text.EmptyBlock();
+    } else {
+        Open(row);
         m_unusedBytes += taken.size();
+    }
     return taken;
 }
 
-void CPackedRows::ReplaceCell(int row, int column, std::string_view text) {
-    const std::string taken = TakeBytes(row);
-    std::string_view cells = taken;
+template <class ChooseCell>
+void CPackedRows::Rewrite(int row, int cellCount, ChooseCell chooseCell) {
+    const std::string taken = TakeCells(row);
+    const char* old = taken.data();
     Row& target = At(row);
-    target.begin = m_bytes.size();
-    m_openRow = row;
-    const int count = std::exchange(target.cellCount, std::uint16_t{0});
-    for (int index = 0; index < count; ++index) {
-        const std::string_view old = NextCell(cells);
-        AppendCellTo(target, index == column ? text : old);
-    }
+    target.cellCount = 0;
+    for (int cell = 0; cell < cellCount; ++cell)
+        AppendCell(target, chooseCell(cell, old));
     CompactWhenWorthwhile();
 }
 
 void CPackedRows::CompactWhenWorthwhile() {
-    if (m_unusedBytes < kCompactFrom || m_unusedBytes < m_bytes.size() / 2)
+    if (m_unusedBytes < kCompactFrom || m_unusedBytes < m_text.UsedBytes() / 2)
         return;
-    std::string compact;
-    compact.reserve(m_bytes.size() - m_unusedBytes);
+    // The row that is open must be the open block of the compact text too, so it comes last.
+    CTextArena compact;
+    const auto copyRow = [&](Row& row) {
+        const std::string_view cells = CellsOf(row.cells, row.cellCount);
+        compact.OpenBlock();
+        cells.copy(compact.Extend(cells.size()), cells.size());
+        row.cells = compact.Block();
+    };
     for (int row = 0; row < Count(); ++row) {
-        const std::size_t begin = compact.size();
-        compact += BytesOf(row);
-        At(row).begin = begin;
+        if (row != m_openRow)
+            copyRow(At(row));
     }
-    m_bytes = std::move(compact);
+    copyRow(At(m_openRow));
+    m_text = std::move(compact);
     m_unusedBytes = 0;
-    m_openRow = Count() - 1;
 }
 
 }

@@ -1,16 +1,18 @@
 #pragma once
 
+#include "frontend/headless/TextArena.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace headless {
 
-/// The rows of a list, packed: the cells of all rows stand in one buffer, each behind its length,
-/// so that a row costs 16 bytes, its text and a byte a cell, and filling a list in row and column
-/// order allocates nothing for a row or a cell.
+/// The rows of a list, packed: the cells of a row stand one behind the other, each behind its
+/// length, and the rows likewise, so that a row costs 16 bytes, its text and a byte a cell, and
+/// filling a list in row and column order allocates nothing for a row or a cell.
 ///
 /// Rows and columns must exist; a cell that was never set is empty.
 class CPackedRows {
@@ -20,7 +22,12 @@ public:
     void Insert(int index, std::string_view firstCell);
     void Clear();
 
-    void SetCell(int row, int column, std::string_view text);
+    void SetCell(int row, int column, std::string_view text) {
+        if (row == m_openRow && column == m_open->cellCount)
+            AppendCell(*m_open, text);
+        else
+            ChangeCell(row, column, text);
+    }
     /// Valid until the next change.
     std::string_view Cell(int row, int column) const;
     /// Makes room for a new column in the rows that are there.
@@ -31,12 +38,12 @@ public:
     void SetSelected(int row, bool isSelected) { At(row).isSelected = isSelected; }
     bool IsSelected(int row) const { return At(row).isSelected; }
 
-    /// Size of the buffer with the cells.
-    std::size_t TextBytes() const { return m_bytes.size(); }
+    /// Size of the cells of all rows, with what was replaced and not yet cleared away.
+    std::size_t TextBytes() const { return m_text.UsedBytes(); }
 
 private:
     struct Row {
-        std::size_t begin = 0;
+        const char* cells = nullptr;
         std::uint32_t key = 0;
         std::uint16_t cellCount = 0;
         bool isSelected = false;
@@ -44,17 +51,20 @@ private:
 
     Row& At(int row) { return m_rows[static_cast<std::size_t>(row)]; }
     const Row& At(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
-    std::string_view BytesOf(int row) const;
-    void AppendCell(std::string_view text);
-    void AppendCellTo(Row& row, std::string_view text);
-    std::string TakeBytes(int row);
-    void ReplaceCell(int row, int column, std::string_view text);
+    void AppendCell(Row& row, std::string_view text);
+    void ChangeCell(int row, int column, std::string_view text);
+    void Open(int row);
+    void OpenAtEnd(int row);
+    std::string TakeCells(int row);
+    template <class ChooseCell>
+    void Rewrite(int row, int cellCount, ChooseCell chooseCell);
     void CompactWhenWorthwhile();
 
-    std::string m_bytes;
-    std::vector<Row> m_rows;
-    // The row whose cells end the buffer, so that more can be appended to it.
+    CTextArena m_text;
+    std::deque<Row> m_rows;
+    // The row whose cells are the open block, so that more can be appended to it.
     int m_openRow = -1;
+    Row* m_open = nullptr;
     std::size_t m_unusedBytes = 0;
 };
 
