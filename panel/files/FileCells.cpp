@@ -1,9 +1,7 @@
 #include "panel/files/FileCells.h"
 
-#include <algorithm>
-#include <iterator>
+#include <charconv>
 #include <optional>
-#include <string_view>
 
 namespace panel {
 
@@ -31,28 +29,45 @@ constexpr Name kLocations[] = {{static_cast<std::uint32_t>(FileLocation::Ram), "
 
 constexpr Name kGenerations[] = {{0, ""}, {3, "QX1"}, {4, "QX2"}, {5, "QX3"}};
 
-std::optional<std::string> Find(std::span<const Name> names, std::uint32_t value) {
-    const auto name = std::find_if(names.begin(), names.end(), [value](const Name& candidate) {
-        return candidate.value == value;
-    });
-    return name == names.end() ? std::nullopt : std::optional(std::string(name->text));
+std::optional<std::string_view> Find(std::span<const Name> names, std::uint32_t value) {
+    for (const Name& name : names) {
+        if (name.value == value) {
+            return name.text;
+        }
+    }
+    return std::nullopt;
+}
+
+template <class Number>
+std::string_view Print(Number number, CellBuffer& buffer) {
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    return {buffer.data(), end};
+}
+
+std::string_view NameOrNumber(std::span<const Name> names, std::uint32_t value,
+                              CellBuffer& buffer) {
+    const auto name = Find(names, value);
+    return name ? *name : Print(value, buffer);
 }
 
 }
 
 std::span<const ListColumn> FileColumns() { return kColumns; }
 
-std::string FileTypeText(std::int32_t type) {
+std::string_view FileTypeText(std::int32_t type) {
     return Find(kTypes, static_cast<std::uint32_t>(type)).value_or("unknown");
 }
 
-std::string FileLocationText(std::int32_t location) {
-    const auto value = static_cast<std::uint32_t>(location);
-    return Find(kLocations, value).value_or(std::to_string(value));
+std::string_view FileLocationText(std::int32_t location, CellBuffer& buffer) {
+    return NameOrNumber(kLocations, static_cast<std::uint32_t>(location), buffer);
 }
 
-std::string FileGenerationText(std::uint32_t generation) {
-    return Find(kGenerations, generation).value_or(std::to_string(generation));
+std::string_view FileGenerationText(std::uint32_t generation, CellBuffer& buffer) {
+    return NameOrNumber(kGenerations, generation, buffer);
+}
+
+std::string_view NumberText(std::int32_t number, CellBuffer& buffer) {
+    return Print(number, buffer);
 }
 
 }

@@ -34,28 +34,28 @@ struct CListingRun::CellStep {
     FileColumn column;
     const char* failureText;
     Status (*read)(File&);
-    std::string (*text)(const File&);
+    std::string_view (*text)(const File&, CellBuffer&);
 };
 
 const CListingRun::CellStep CListingRun::kCellSteps[] = {
     {FileColumn::Type, "Cannot get type of the file",
      [](File& f) { return Call(f.info, &IFileInfo::GetType, f.type); },
-     [](const File& f) { return FileTypeText(f.type); }},
+     [](const File& f, CellBuffer&) { return FileTypeText(f.type); }},
     {FileColumn::Id, "Cannot get ID of the file",
      [](File& f) { return Call(f.info, &IFileInfo::GetId, f.id); },
-     [](const File& f) { return std::to_string(f.id); }},
+     [](const File& f, CellBuffer& buffer) { return NumberText(f.id, buffer); }},
     {FileColumn::Version, "Cannot get version of the file",
      [](File& f) { return Call(f.info, &IFileInfo::GetVersion, f.version); },
-     [](const File& f) { return std::string(CutToBytes(f.version, kLongestCell)); }},
+     [](const File& f, CellBuffer&) { return CutToBytes(f.version, kLongestCell); }},
     {FileColumn::Size, "Cannot get size of the file",
      [](File& f) { return Call(f.info, &IFileInfo::GetSize, f.sizeBytes); },
-     [](const File& f) { return std::to_string(f.sizeBytes); }},
+     [](const File& f, CellBuffer& buffer) { return NumberText(f.sizeBytes, buffer); }},
     {FileColumn::Location, "Cannot get file location",
      [](File& f) { return Call(f.info, &IFileInfo::GetLocation, f.location); },
-     [](const File& f) { return FileLocationText(f.location); }},
+     [](const File& f, CellBuffer& buffer) { return FileLocationText(f.location, buffer); }},
     {FileColumn::Generation, "Cannot get generation of the file",
      [](File& f) { return Call(f.info, &IFileInfo::GetGeneration, f.generation); },
-     [](const File& f) { return FileGenerationText(f.generation); }},
+     [](const File& f, CellBuffer& buffer) { return FileGenerationText(f.generation, buffer); }},
 };
 
 CListingRun::CListingRun(PanelServices& services, const std::uint64_t& latestFill,
@@ -109,11 +109,13 @@ bool CListingRun::ListFile(const std::shared_ptr<contract::IFileListing>& listin
 }
 
 bool CListingRun::FillRow(int row, File& file, bool isPackageVersion) {
+    CellBuffer buffer;
     for (const CellStep& step : kCellSteps) {
         if (!MayGoOn(step.read(file), step.failureText)) {
             return false;
         }
-        m_services.view->SetCell(m_list, row, static_cast<int>(step.column), step.text(file));
+        m_services.view->SetCell(m_list, row, static_cast<int>(step.column),
+                                 step.text(file, buffer));
         if (isPackageVersion && step.column == FileColumn::Version) {
             m_services.state.installedPackageVersion = FormatVersion(
                 ParseVersion(CutToBytes(file.version, kLongestCell)), kPackageVersionSize);

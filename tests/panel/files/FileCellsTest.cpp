@@ -2,8 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace panel {
 namespace {
+
+std::string Location(std::int32_t location) {
+    CellBuffer buffer;
+    return std::string(FileLocationText(location, buffer));
+}
+
+std::string Generation(std::uint32_t generation) {
+    CellBuffer buffer;
+    return std::string(FileGenerationText(generation, buffer));
+}
 
 TEST(FileCellsTest, ColumnsStandInOrderWithWidthAndAlignment) {
     struct Expected {
@@ -35,23 +47,31 @@ TEST(FileCellsTest, TypesHaveNamesAndOthersAreUnknown) {
 }
 
 TEST(FileCellsTest, LocationsHaveNamesAndOthersAreUnsignedNumbers) {
-    EXPECT_EQ(FileLocationText(1), "RAM");
-    EXPECT_EQ(FileLocationText(2), "Flash");
-    EXPECT_EQ(FileLocationText(3), "PCCard");
-    EXPECT_EQ(FileLocationText(0), "0");
-    EXPECT_EQ(FileLocationText(7), "7");
-    EXPECT_EQ(FileLocationText(-1), "4294967295");
+    EXPECT_EQ(Location(1), "RAM");
+    EXPECT_EQ(Location(2), "Flash");
+    EXPECT_EQ(Location(3), "PCCard");
+    EXPECT_EQ(Location(0), "0");
+    EXPECT_EQ(Location(7), "7");
+    EXPECT_EQ(Location(-1), "4294967295");
 }
 
 TEST(FileCellsTest, GenerationsHaveNamesAndOthersAreNumbers) {
-    EXPECT_EQ(FileGenerationText(0), "");
-    EXPECT_EQ(FileGenerationText(1), "1");
-    EXPECT_EQ(FileGenerationText(2), "2");
-    EXPECT_EQ(FileGenerationText(3), "QX1");
-    EXPECT_EQ(FileGenerationText(4), "QX2");
-    EXPECT_EQ(FileGenerationText(5), "QX3");
-    EXPECT_EQ(FileGenerationText(6), "6");
-    EXPECT_EQ(FileGenerationText(4294967295u), "4294967295");
+    EXPECT_EQ(Generation(0), "");
+    EXPECT_EQ(Generation(1), "1");
+    EXPECT_EQ(Generation(2), "2");
+    EXPECT_EQ(Generation(3), "QX1");
+    EXPECT_EQ(Generation(4), "QX2");
+    EXPECT_EQ(Generation(5), "QX3");
+    EXPECT_EQ(Generation(6), "6");
+    EXPECT_EQ(Generation(4294967295u), "4294967295");
+}
+
+TEST(FileCellsTest, NumbersAreSignedDecimalWithoutSeparators) {
+    CellBuffer buffer;
+    EXPECT_EQ(NumberText(0, buffer), "0");
+    EXPECT_EQ(NumberText(1234567, buffer), "1234567");
+    EXPECT_EQ(NumberText(2147483647, buffer), "2147483647");
+    EXPECT_EQ(NumberText(-2147483647 - 1, buffer), "-2147483648");
 }
 
 }

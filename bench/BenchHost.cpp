@@ -1,0 +1,71 @@
+#include "bench/BenchHost.h"
+
+#include "contract/device/SelfTestResults.h"
+#include "contract/host/ExtConnectionEvents.h"
+#include "panel/control/KRX8Maintenance.h"
+#include "simulator/Device.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace bench {
+
+namespace {
+
+class CHostView final : public contract::IHostViewControl {
+public:
+    contract::Status ClosePanel() override { return contract::kSuccess; }
+};
+
+void Require(contract::Status status) {
+    if (status.IsFailure()) {
+        throw std::runtime_error("the panel could not be set up");
+    }
+}
+
+}
+
+simulator::DeviceDescription DeviceWithFiles(std::int64_t count) {
+    simulator::DeviceDescription device;
+    device.type = simulator::kKrx20;
+    for (std::int32_t test = 1; test <= contract::kSelfTestCount; ++test) {
+        device.selfTests[static_cast<contract::SelfTest>(test)] = 0;
+    }
+    constexpr std::int32_t kTypes[] = {19, 21, 22};
+    device.files.reserve(static_cast<std::size_t>(count));
+    for (std::int64_t i = 0; i < count; ++i) {
+        simulator::StoredFile file;
+        file.name = "phone_code_" + std::to_string(i) + ".fia";
+        file.type = kTypes[i % 3];
+        file.id = static_cast<std::int32_t>(i);
+        file.version = "2." + std::to_string(i % 100) + "." + std::to_string(i % 7);
+        file.sizeBytes = static_cast<std::int32_t>(1024 + i % 100000);
+        file.location = static_cast<std::int32_t>(1 + i % 3);
+        file.generation = static_cast<std::uint32_t>(3 + i % 3);
+        device.files.push_back(std::move(file));
+    }
+    return device;
+}
+
+CBenchHost::CBenchHost(std::unique_ptr<panel::IToolkit> toolkit, void* nativeParent,
+                       const simulator::DeviceDescription& device)
+    : m_host(), m_panel(panel::CKRX8Maintenance::Create(std::move(toolkit))) {
+    m_host.SetHostViewControl(std::make_shared<CHostView>());
+    m_host.InsertDevice(simulator::CDevice::Create(device));
+    Require(m_panel->SetContext(m_host.Context()));
+    Require(m_panel->CreateView(nativeParent));
+    Require(m_panel->SetSubsystemAccess(m_host.SubsystemAccess()));
+    Require(m_panel->SetConnection(m_host.Connection()));
+}
+
+CBenchHost::~CBenchHost() { m_panel->DestroyView(); }
+
+void CBenchHost::Refresh() {
+    m_host.RaiseConnectionState(contract::kSuccess, contract::kConnectionDeviceReady);
+}
+
+void CBenchHost::RaiseMessage(std::uint32_t done, std::uint32_t total) {
+    m_host.Device()->RaiseMessage("Writing flash", done, total);
+}
+
+}

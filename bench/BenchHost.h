@@ -1,0 +1,39 @@
+#pragma once
+
+#include "contract/host/HostViewControl.h"
+#include "contract/panel/Panel.h"
+#include "panel/control/Toolkit.h"
+#include "simulator/DeviceDescription.h"
+#include "simulator/Host.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace bench {
+
+/// A healthy KRX-20 with that many files.
+simulator::DeviceDescription DeviceWithFiles(std::int64_t count);
+
+/// A panel connected to a simulated device, on whatever toolkit it is given.
+class CBenchHost {
+public:
+    /// `nativeParent` as the toolkit needs it.
+    CBenchHost(std::unique_ptr<panel::IToolkit> toolkit, void* nativeParent,
+               const simulator::DeviceDescription& device);
+    ~CBenchHost();
+    CBenchHost(const CBenchHost&) = delete;
+    CBenchHost& operator=(const CBenchHost&) = delete;
+
+    /// Connection state 7: the panel reads the type and refreshes.
+    void Refresh();
+    /// One progress message from the device.
+    void RaiseMessage(std::uint32_t done, std::uint32_t total);
+    contract::IPanel& Panel() { return *m_panel; }
+    simulator::CHost& Host() { return m_host; }
+
+private:
+    simulator::CHost m_host;
+    std::shared_ptr<contract::IPanel> m_panel;
+};
+
+}

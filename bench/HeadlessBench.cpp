@@ -1,0 +1,86 @@
+#include "bench/BareDevice.h"
+#include "bench/BenchHost.h"
+#include "contract/host/Subsystem.h"
+#include "contract/host/SubsystemAccess.h"
+#include "frontend/headless/HeadlessToolkit.h"
+#include "frontend/headless/HeadlessView.h"
+#include "panel/control/PanelTemplate.h"
+
+#include <benchmark/benchmark.h>
+
+#include <stdexcept>
+
+namespace {
+
+using bench::CBenchHost;
+using bench::DeviceWithFiles;
+
+/// The panel without a screen, answering no prompts: a benchmark that met one would measure it.
+struct HeadlessBench {
+    explicit HeadlessBench(std::int64_t files)
+        : desktop(std::make_shared<headless::HeadlessDesktop>()),
+          host(std::make_unique<headless::CHeadlessToolkit>(desktop), nullptr,
+               DeviceWithFiles(files)) {
+        host.Refresh();
+        Check(files);
+    }
+
+    void Check(std::int64_t files) {
+        if (desktop->windows.PanelView()->GetRowCount(panel::kFileList) != files) {
+            throw std::runtime_error("the list is not complete");
+        }
+    }
+
+    std::shared_ptr<headless::HeadlessDesktop> desktop;
+    CBenchHost host;
+};
+
+void BareDeviceCalls(benchmark::State& state) {
+    HeadlessBench bench(state.range(0));
+    std::shared_ptr<contract::ISubsystem> subsystem;
+    std::shared_ptr<contract::IProgrammingDeviceSubsystem> device;
+    if (bench.host.Host()
+            .SubsystemAccess()
+            ->GetSubsystem(contract::kProgrammingDeviceSubsystem, subsystem)
+            .IsFailure() ||
+        subsystem->QueryProgrammingDeviceSubsystem(device).IsFailure()) {
+        state.SkipWithError("no subsystem");
+        return;
+    }
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(bench::ReadAllFiles(*device));
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void RefreshThroughHeadlessView(benchmark::State& state) {
+    HeadlessBench bench(state.range(0));
+    for (auto _ : state) {
+        bench.host.Refresh();
+    }
+    bench.Check(state.range(0));
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+    state.SetComplexityN(state.range(0));
+}
+
+/// A million progress messages, of which one in ten thousand changes the whole percentage.
+void MillionDeviceMessages(benchmark::State& state) {
+    constexpr std::uint32_t kMessages = 1000000;
+    HeadlessBench bench(0);
+    for (auto _ : state) {
+        for (std::uint32_t done = 1; done <= kMessages; ++done) {
+            bench.host.RaiseMessage(done, kMessages);
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * kMessages);
+}
+
+}
+
+BENCHMARK(BareDeviceCalls)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(RefreshThroughHeadlessView)
+    ->RangeMultiplier(10)
+    ->Range(1000, 1000000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+BENCHMARK(MillionDeviceMessages)->Unit(benchmark::kMillisecond);
