@@ -6,6 +6,7 @@
 #include "tests/interception/HostTargets.h"
 #include "tests/interception/InformationTargets.h"
 
+#include <ostream>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -115,6 +116,11 @@ struct NamedOperation {
     Outcome (*run)(const CInterception&, contract::Status answer);
     Delivers delivers;
 };
+
+/// Shown by the test framework where a test fails.
+inline void PrintTo(const NamedOperation& operation, std::ostream* stream) {
+    *stream << operation.name;
+}
 
 template <auto method>
 NamedOperation Named(const char* name) {
