@@ -80,6 +80,8 @@ struct CallsCase {
     Calls identityCalls;
 };
 
+void PrintTo(const CallsCase& value, std::ostream* out) { *out << value.name; }
+
 class RefreshCallsTest : public RefreshSequenceTest,
                          public testing::WithParamInterface<CallsCase> {};
 
