@@ -53,6 +53,17 @@ TEST_F(HeadlessViewTest, RowsTakenBackByAMoveGoOutOfSight) {
     EXPECT_FALSE(View().IsRowInSight(panel::kFileList, 10));
 }
 
+TEST_F(HeadlessViewTest, InsertRowAboveMovesMarkAndFocusedRowDown) {
+    for (int row = 0; row < 3; ++row)
+        View().InsertRow(panel::kFileList, row, "file");
+    View().SetEnabled(panel::kFileList, true);
+    ASSERT_TRUE(View().ClickRow(panel::kFileList, 1));
+    View().InsertRow(panel::kFileList, 0, "above");
+    EXPECT_EQ(View().GetSelectionMark(panel::kFileList), 2);
+    EXPECT_EQ(View().GetFocusedRow(panel::kFileList), 2);
+    EXPECT_EQ(View().GetSelectedRows(panel::kFileList), std::vector<int>{2});
+}
+
 TEST_F(HeadlessViewTest, DisabledControlWithFocusGetsItBack) {
     View().SetFocus(panel::kCloseButton);
     View().SetEnabled(panel::kCloseButton, false);
