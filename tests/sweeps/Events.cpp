@@ -1,0 +1,42 @@
+#include "tests/sweeps/Events.h"
+
+#include "tests/sweeps/Stage.h"
+
+namespace sweeps {
+
+namespace {
+
+constexpr auto kFailure = contract::kUnspecifiedFailure;
+
+constexpr Event kEvents[] = {
+    {"ModeChanged(1)", [](IStage& stage) { stage.RaiseMode(1); }, true},
+    {"ModeChanged(2)", [](IStage& stage) { stage.RaiseMode(2); }, true},
+    {"ModeChanged(7)", [](IStage& stage) { stage.RaiseMode(7); }, true},
+    {"DeviceMessage", [](IStage& stage) { stage.RaiseMessage("Erasing", 1, 3); }},
+    {"state 5", [](IStage& stage) { stage.RaiseState(contract::kSuccess, 5); }},
+    {"state 7", [](IStage& stage) { stage.RaiseState(contract::kSuccess, 7); }},
+    // All that a panel takes no notice of, in one go.
+    {"ignored events",
+     [](IStage& stage) {
+         stage.RaiseDeviceEvent3();
+         stage.RaiseConnectionEvent2();
+         stage.RaiseState(contract::kSuccess, 6);
+         stage.RaiseState(kFailure, 5);
+         stage.RaiseState(kFailure, 7);
+     }},
+};
+
+constexpr Event kInterventions[] = {
+    {"DestroyView", [](IStage& stage) { stage.DestroyView(); }},
+    {"release of the panel", [](IStage& stage) { stage.ReleasePanel(); }},
+    {"SetConnection(null)", [](IStage& stage) { stage.SetNoConnection(); }},
+    {"another SetSubsystemAccess", [](IStage& stage) { stage.SetOtherSubsystemAccess(); }},
+};
+
+}
+
+std::span<const Event> DeviceAndConnectionEvents() { return kEvents; }
+
+std::span<const Event> HostInterventions() { return kInterventions; }
+
+}

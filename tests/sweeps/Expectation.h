@@ -1,0 +1,140 @@
+#pragma once
+
+#include "simulator/DeviceDescription.h"
+#include "tests/sweeps/Observation.h"
+#include "tests/sweeps/Plan.h"
+#include "tests/sweeps/Stage.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sweeps {
+
+/// What is to be seen of a panel, worked out without the panel.
+///
+/// A stage like the real one: the same scenario and the same plan are played to it, and it notes
+/// what the panel has to call, say and show. What the panel does with its device stands in tables
+/// beside it (Expected*.cpp), which know nothing of the code under test.
+class CExpectation final : public IStage {
+public:
+    enum class Prompt { PlainBox, Dialog };
+
+    explicit CExpectation(simulator::DeviceDescription device);
+
+    /// Lets things go wrong from here on; calls and boxes count from here.
+    void Arrange(const Plan& plan);
+    /// What was to be seen since the start or the last Take.
+    Observation Take();
+    /// Prompts of the toolkit, in the order in which they are answered, and boxes of both kinds,
+    /// since Arrange.
+    const std::vector<Prompt>& Prompts() const { return m_prompts; }
+    std::size_t Boxes() const { return m_boxes; }
+    /// How many of the calls picked by the plan are reached.
+    std::size_t CallsSpoilt() const { return m_callsSpoilt; }
+    /// Whether a further device is shown in full: the view was initialised and still exists, and
+    /// the panel hears its device.
+    bool CanShowADevice() const;
+
+    // IStage
+    void SetContextAndRegister() override;
+    void CreateView() override;
+    void SetSubsystemAccess() override;
+    void SetOtherSubsystemAccess() override { SetSubsystemAccess(); }
+    void SetConnection() override;
+    void SetNoConnection() override;
+    void Go() override;
+    void DestroyView() override;
+    void ReleasePanel() override;
+    void RaiseState(contract::Status status, std::int32_t state) override;
+    void RaiseConnectionEvent2() override {}
+    void RaiseMode(std::int32_t mode) override;
+    void RaiseMessage(const std::string& text, std::uint32_t done, std::uint32_t total) override;
+    void RaiseDeviceEvent3() override {}
+    void InsertDevice() override;
+    void LoseDevice() override;
+    void PressButton(panel::ControlId id) override;
+
+    // For the tables of what is expected
+
+    using Effect = std::function<void()>;
+
+    /// One call of the panel; `effect` is what the other side does. False when it fails.
+    bool Call(std::string_view operation, const Effect& effect = {});
+    /// Several, up to the first that fails.
+    bool CallInTurn(std::initializer_list<std::string_view> operations);
+    /// The status of the call that failed last.
+    contract::Status FailureStatus() const { return m_failure.status; }
+
+    /// The error report of the call that failed last.
+    void Report(const std::string& text, const std::string& caption);
+    void Warn(const std::string& text, const std::string& caption);
+    void WriteLine(const std::string& text);
+    /// The self-test dialog, open.
+    void OpenDialog(DialogRows rows);
+
+    /// Nothing for a control that cannot be reached: no view, or one left uninitialised.
+    void SetText(panel::ControlId id, const std::string& text);
+    void Enable(panel::ControlId id, bool isEnabled);
+    /// The file list; null when it cannot be reached.
+    Picture* List();
+
+    const simulator::DeviceDescription& Device() const { return m_device; }
+
+    Kept kept;
+    /// Counts the fillings of the file list begun.
+    std::uint64_t fillings = 0;
+    /// What the panel holds of its host.
+    struct {
+        bool isRegistered = false;
+        bool subsystem = false;
+        bool control = false;
+        bool hearsDevice = false;
+        bool connection = false;
+        bool connectionState = false;
+        bool hearsConnection = false;
+        std::uint64_t attachments = 0;
+    } held;
+
+private:
+    class CEntry;
+
+    struct Failing {
+        contract::Status status;
+        std::string description;
+    };
+
+    bool Spoils(std::size_t call, std::string_view operation);
+    void Intrude(Moment moment, std::size_t number);
+    void Show(const support::Shown& message);
+    void ShowPlainBox(const support::Shown& message);
+    void OpenBox();
+    void AppendToLog(const std::string& line);
+    void EndPanel();
+
+    const simulator::DeviceDescription m_device;
+    Plan m_plan;
+    std::size_t m_calls = 0;
+    std::size_t m_callsSpoilt = 0;
+    std::size_t m_boxes = 0;
+    std::size_t m_dialogs = 0;
+    std::vector<Prompt> m_prompts;
+    Failing m_failure;
+    Observation m_seen;
+    std::optional<Picture> m_picture;
+    bool m_isWhole = false;
+    std::vector<std::string> m_log;
+    std::string m_lastLine;
+    std::uint32_t m_lastPercent = 0;
+    bool m_isInserted = false;
+    bool m_isLost = false;
+    int m_entries = 0;
+    bool m_isReleased = false;
+    bool m_isGone = false;
+};
+
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace sweeps {
+
+class CExpectation;
+
+/// Reading the device's type, and the refresh that follows for a known one.
+void ExpectTypeRead(CExpectation& panel);
+
+/// The device-dependent controls and the title of the information group.
+void ExpectControlsEnabled(CExpectation& panel, bool enable);
+
+}

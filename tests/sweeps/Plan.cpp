@@ -1,0 +1,43 @@
+#include "tests/sweeps/Plan.h"
+
+namespace sweeps {
+
+namespace {
+
+const char* Name(Moment moment) {
+    switch (moment) {
+    case Moment::BeforeCall:
+        return "before call ";
+    case Moment::AfterCall:
+        return "after call ";
+    case Moment::WhileBoxOpen:
+        return "while box is open ";
+    case Moment::WhileDialogOpen:
+        return "while dialog is open ";
+    }
+    return "";
+}
+
+}
+
+std::string Describe(const Plan& plan) {
+    std::string text;
+    for (const SpoiltCall& spoilt : plan.spoilt) {
+        const bool isFailure = spoilt.how == Spoiling::Failure;
+        text +=
+            "call " + std::to_string(spoilt.call) + (isFailure ? " fails; " : " delivers null; ");
+    }
+    if (plan.lossInCall) {
+        text += "device lost in call " + std::to_string(*plan.lossInCall) + "; ";
+    }
+    if (plan.failMessageService) {
+        text += "message service fails; ";
+    }
+    if (plan.intrusion) {
+        text += std::string(plan.intrusion->event->name) + " " + Name(plan.intrusion->moment) +
+                std::to_string(plan.intrusion->number) + "; ";
+    }
+    return text.empty() ? "nothing goes wrong" : text;
+}
+
+}

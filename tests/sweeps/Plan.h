@@ -1,0 +1,63 @@
+#pragma once
+
+#include "contract/Status.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace sweeps {
+
+class IStage;
+
+/// How a call that was picked fails.
+inline constexpr auto kFaultStatus = contract::Status::FromBits(0x800700AA);
+inline constexpr const char* kFaultDescription = "The line is noisy.";
+
+/// How every call fails that a lost device should have answered.
+inline constexpr auto kLostStatus = contract::Status::FromBits(0x8007048F);
+inline constexpr const char* kLostDescription = "The device is gone.";
+
+/// How a message service fails that cannot show anything.
+inline constexpr auto kNoDisplayStatus = contract::Status::FromBits(0x80040155);
+
+/// Something that host or device do of their own accord.
+struct Event {
+    const char* name;
+    void (*raise)(IStage&);
+    /// The panel then takes another mode for the device's.
+    bool changesMode = false;
+};
+
+enum class Spoiling { Failure, Null };
+
+/// Calls count from 1, from the arranging of the plan on.
+struct SpoiltCall {
+    std::size_t call;
+    Spoiling how;
+};
+
+enum class Moment { BeforeCall, AfterCall, WhileBoxOpen, WhileDialogOpen };
+
+/// An event in the midst of things: inside the call of that number, or while the box or dialog of
+/// that number is open.
+struct Intrusion {
+    Moment moment;
+    std::size_t number;
+    const Event* event;
+};
+
+/// What goes wrong in one run; nothing unless it is said.
+struct Plan {
+    std::vector<SpoiltCall> spoilt = {};
+    /// Connection state 5 is raised inside that call and the device is lost.
+    std::optional<std::size_t> lossInCall = {};
+    bool failMessageService = false;
+    std::optional<Intrusion> intrusion = {};
+};
+
+/// The plan in words.
+std::string Describe(const Plan& plan);
+
+}

@@ -1,0 +1,106 @@
+#include "tests/sweeps/Sweep.h"
+
+#include "interception/Operations.h"
+#include "tests/sweeps/Figures.h"
+
+namespace sweeps {
+
+CSweep::CSweep(const Scenario& scenario, std::int32_t model, std::int32_t mode)
+    : m_scenario(scenario), m_device(MakeDevice(scenario, model, mode)) {
+    ++TheFigures().scenarios;
+    CExpectation expected(m_device);
+    m_scenario.setUp(expected);
+    static_cast<void>(expected.Take());
+    expected.Arrange({});
+    m_scenario.action(expected);
+    m_boxes = expected.Boxes();
+    const Observation seen = expected.Take();
+    m_calls = seen.calls;
+    m_dialogs = seen.dialogs.size();
+    Run({});
+}
+
+bool CSweep::DeliversObject(std::size_t call) const {
+    return interception::FindOperation(m_calls[call - 1])->delivers ==
+           interception::Delivers::Object;
+}
+
+std::string CSweep::Describe(const Plan& plan) const {
+    std::string text = std::string(m_scenario.name) + ", model " + std::to_string(m_device.type) +
+                       ", mode " + std::to_string(m_device.mode) + ": " + sweeps::Describe(plan);
+    const auto name = [&](std::size_t call) {
+        if (call <= m_calls.size())
+            text += "(call " + std::to_string(call) + " is " + std::string(m_calls[call - 1]) + ")";
+    };
+    for (const SpoiltCall& spoilt : plan.spoilt)
+        name(spoilt.call);
+    if (plan.lossInCall)
+        name(*plan.lossInCall);
+    if (plan.intrusion && (plan.intrusion->moment == Moment::BeforeCall ||
+                           plan.intrusion->moment == Moment::AfterCall))
+        name(plan.intrusion->number);
+    return text;
+}
+
+void CSweep::Run(const Plan& plan) {
+    if (testing::Test::HasFailure())
+        return; // one failing run is told; the thousands after it would only bury it
+    SCOPED_TRACE(Describe(plan));
+    ++TheFigures().runs;
+    Pair pair(m_device);
+    Play(pair, {}, m_scenario.setUp);
+    Compare(pair, "setting up");
+    Play(pair, plan, m_scenario.action);
+    EXPECT_EQ(pair.actual.CallsSpoilt(), pair.expected.CallsSpoilt());
+    TheFigures().callsSpoilt += pair.expected.CallsSpoilt();
+    TheFigures().events += plan.intrusion ? 1 : 0;
+    Compare(pair, "acting");
+    PlayAgain(pair, plan);
+    pair.actual.End();
+}
+
+void CSweep::Play(Pair& pair, const Plan& plan, void (*act)(IStage&)) {
+    pair.expected.Arrange(plan);
+    act(pair.expected);
+    pair.actual.Arrange(plan, pair.expected.Prompts());
+    act(pair.actual);
+    TheFigures().promptsAnswered += pair.expected.Boxes();
+}
+
+Observation CSweep::Compare(Pair& pair, const char* when) {
+    const Observation expected = pair.expected.Take();
+    const Observation actual = pair.actual.Take();
+    EXPECT_TRUE(expected == actual) << "after " << when << ":\n" << Difference(expected, actual);
+    EXPECT_EQ(pair.actual.CursorDepth(), 0) << "after " << when;
+    return actual;
+}
+
+void CSweep::PlayAgain(Pair& pair, const Plan& plan) {
+    pair.expected.InsertDevice();
+    pair.actual.InsertDevice();
+    if (plan.intrusion && plan.intrusion->event->changesMode) {
+        pair.expected.RaiseMode(m_device.mode);
+        pair.actual.RaiseMode(m_device.mode);
+    }
+    Play(pair, {}, m_scenario.again);
+    const Observation seen = Compare(pair, "going on undisturbed");
+    if (!m_undisturbed) {
+        m_undisturbed = seen.picture;
+        m_undisturbedKept = seen.kept;
+    }
+    if (pair.expected.CanShowADevice()) {
+        ASSERT_TRUE(seen.picture && seen.kept);
+        EXPECT_EQ(Difference(*m_undisturbed, *seen.picture), "");
+        EXPECT_EQ(*m_undisturbedKept, *seen.kept);
+    }
+}
+
+std::size_t CSweep::BoxesWith(const Plan& plan) const {
+    CExpectation expected(m_device);
+    m_scenario.setUp(expected);
+    expected.Arrange(plan);
+    m_scenario.action(expected);
+    return expected.Boxes();
+}
+
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "tests/support/PanelFixture.h"
+#include "tests/sweeps/DeviceLoss.h"
+#include "tests/sweeps/Expectation.h"
+#include "tests/sweeps/Observation.h"
+#include "tests/sweeps/Plan.h"
+#include "tests/sweeps/Stage.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace sweeps {
+
+/// The stage with the real panel on it: a fixture that is made anew for every run inside one test.
+class CSweepPanel final : public support::PanelFixture, public IStage {
+public:
+    explicit CSweepPanel(const simulator::DeviceDescription& description);
+
+    /// Lets things go wrong from here on, and has `prompts` answered.
+    void Arrange(const Plan& plan, const std::vector<CExpectation::Prompt>& prompts);
+    /// How many of the calls picked by the plan have been reached.
+    std::size_t CallsSpoilt() const { return faults->Fired(); }
+    int CursorDepth() const { return desktop->cursorDepth; }
+    Observation Take();
+    /// Ends the panel and checks that nothing is left of it.
+    void End() { TearDown(); }
+
+    // IStage
+    void SetContextAndRegister() override;
+    void CreateView() override;
+    void SetSubsystemAccess() override;
+    void SetOtherSubsystemAccess() override;
+    void SetConnection() override;
+    void SetNoConnection() override;
+    void Go() override;
+    void DestroyView() override;
+    void ReleasePanel() override { panel.reset(); }
+    void RaiseState(contract::Status status, std::int32_t state) override;
+    void RaiseConnectionEvent2() override { host.RaiseConnectionEvent2(1, 2); }
+    void RaiseMode(std::int32_t mode) override { m_device->RaiseMode(mode); }
+    void RaiseMessage(const std::string& text, std::uint32_t done, std::uint32_t total) override;
+    void RaiseDeviceEvent3() override { m_device->RaiseEvent3(1, 2); }
+    void InsertDevice() override;
+    void LoseDevice() override;
+    void PressButton(panel::ControlId id) override;
+
+private:
+    void TestBody() override {}
+
+    void Note(contract::Status status) { m_statuses.push_back(status); }
+    void Spoil(const SpoiltCall& spoilt);
+    void Arrange(const Intrusion& intrusion);
+    void OnBoxOpen();
+    void OnDialogOpen(headless::CHeadlessView& dialog);
+    void Intrude(Moment moment, std::size_t number);
+    Picture LookAtView();
+    Kept LookAtState() const;
+
+    const std::shared_ptr<simulator::CDevice> m_device;
+    const std::shared_ptr<CDeviceLoss> m_loss = std::make_shared<CDeviceLoss>();
+    std::optional<Intrusion> m_intrusion;
+    std::size_t m_boxesOpened = 0;
+    std::size_t m_dialogsOpened = 0;
+    std::size_t m_boxesTaken = 0;
+    std::vector<contract::Status> m_statuses;
+    std::vector<DialogRows> m_dialogs;
+};
+
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "tests/sweeps/Scenario.h"
+#include "tests/sweeps/Sweep.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace sweeps {
+
+/// One scenario on one model; each test goes through the modes.
+struct Setting {
+    const Scenario* scenario;
+    std::int32_t model;
+};
+
+inline std::vector<Setting> Settings() {
+    std::vector<Setting> settings;
+    for (const Scenario& scenario : Scenarios())
+        for (const std::int32_t model : scenario.models)
+            settings.push_back({&scenario, model});
+    return settings;
+}
+
+inline std::string SettingName(const testing::TestParamInfo<Setting>& info) {
+    return std::string(info.param.scenario->name) + "OnModel" + std::to_string(info.param.model);
+}
+
+class SweepTest : public testing::TestWithParam<Setting> {
+protected:
+    /// Plays `sweep` with the scenario in each of its modes.
+    template <class Body>
+    void InEachMode(const Body& body) {
+        for (const std::int32_t mode : GetParam().scenario->modes) {
+            CSweep sweep(*GetParam().scenario, GetParam().model, mode);
+            ASSERT_FALSE(HasFailure());
+            body(sweep);
+        }
+    }
+};
+
+}
