@@ -1,12 +1,12 @@
 #include "frontend/qt/ControlBuilder.h"
 
 #include "frontend/qt/Font.h"
+#include "frontend/qt/GroupBox.h"
 #include "frontend/qt/HelpRequests.h"
 #include "frontend/qt/ListView.h"
 #include "frontend/qt/LogView.h"
 #include "frontend/qt/Text.h"
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -35,14 +35,13 @@ struct Surroundings {
 };
 
 QWidget* BuildGroupBox(const ControlTemplate& control, const Surroundings& around) {
-    auto* const box = new QGroupBox(ToQt(control.text), around.view);
-    box->setAttribute(Qt::WA_TransparentForMouseEvents);
-    return box;
+    return new CGroupBox(ToQt(control.text), around.view);
 }
 
 QWidget* BuildLabel(const ControlTemplate& control, const Surroundings& around) {
     auto* const label = new QLabel(around.view);
     label->setTextFormat(Qt::PlainText);
+    label->setAutoFillBackground(true);
     label->setText(ToQt(control.text));
     return label;
 }

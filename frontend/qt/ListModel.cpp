@@ -15,12 +15,12 @@ Qt::Alignment ToQt(panel::Alignment alignment) {
 
 }
 
-void CListModel::AddColumn(int index, const panel::ListColumn& column) {
+void CListModel::AddColumn(int index, const panel::ListColumn& column, const QFont& headingFont) {
     Announce();
     beginInsertColumns({}, index, index);
     m_rows.InsertColumn(index);
     m_columns.insert(m_columns.begin() + index,
-                     Column{qt::ToQt(column.heading), ToQt(column.alignment)});
+                     Column{qt::ToQt(column.heading), ToQt(column.alignment), headingFont});
     endInsertColumns();
 }
 
@@ -99,10 +99,16 @@ QVariant CListModel::headerData(int section, Qt::Orientation orientation, int ro
         return {};
     }
     const Column& column = m_columns[static_cast<std::size_t>(section)];
-    if (role == Qt::DisplayRole) {
+    switch (role) {
+    case Qt::DisplayRole:
         return column.heading;
+    case Qt::TextAlignmentRole:
+        return QVariant(column.alignment);
+    case Qt::FontRole:
+        return column.font;
+    default:
+        return {};
     }
-    return role == Qt::TextAlignmentRole ? QVariant(column.alignment) : QVariant();
 }
 
 void CListModel::ForgetNews() {

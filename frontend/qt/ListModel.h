@@ -4,6 +4,7 @@
 #include "panel/control/View.h"
 
 #include <QAbstractTableModel>
+#include <QFont>
 #include <QString>
 
 #include <vector>
@@ -20,7 +21,7 @@ public:
     const CPackedRows& Rows() const { return m_rows; }
 
     /// Adds a column before column `index`, which may be the count.
-    void AddColumn(int index, const panel::ListColumn& column);
+    void AddColumn(int index, const panel::ListColumn& column, const QFont& headingFont);
     /// Adds a row with that first cell before row `index`, which may be the count.
     void AddRow(int index, std::string_view text);
     void SetCell(int row, int column, std::string_view text);
@@ -41,6 +42,7 @@ private:
     struct Column {
         QString heading;
         Qt::Alignment alignment;
+        QFont font;
     };
 
     void ForgetNews();

@@ -1,5 +1,6 @@
 #include "frontend/qt/ListView.h"
 
+#include "frontend/qt/Font.h"
 #include "frontend/qt/KeyCodes.h"
 #include "frontend/qt/Text.h"
 
@@ -8,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -19,6 +21,7 @@ namespace {
 
 constexpr int kUpdateMs = 40;
 constexpr int kRowPaddingPixels = 4;
+constexpr int kToleratedExcessPixels = 12;
 constexpr auto kWholeRows = QItemSelectionModel::Rows;
 
 }
@@ -62,7 +65,9 @@ void CListView::SetRightClickListener(std::function<void(QPoint)> listener) {
 void CListView::InsertColumn(int index, const panel::ListColumn& column) {
     const int count = m_model.columnCount();
     const int place = index < 0 || index > count ? count : index;
-    m_model.AddColumn(place, column);
+    const int room = column.widthPixels - 2 * style()->pixelMetric(QStyle::PM_HeaderMargin);
+    m_model.AddColumn(place, column,
+                      FitFont(horizontalHeader()->font(), ToQt(column.heading), room));
     setColumnWidth(place, column.widthPixels);
 }
 
@@ -239,6 +244,15 @@ void CListView::paintEvent(QPaintEvent* event) {
     ApplySelection();
     BringUpToDate();
     QTableView::paintEvent(event);
+}
+
+// Columns that a vertical scroll bar pushes a few pixels out of sight are no reason to lose a row
+// to a horizontal one.
+void CListView::updateGeometries() {
+    const int excess = horizontalHeader()->length() - viewport()->width();
+    setHorizontalScrollBarPolicy(excess <= kToleratedExcessPixels ? Qt::ScrollBarAlwaysOff
+                                                                  : Qt::ScrollBarAsNeeded);
+    QTableView::updateGeometries();
 }
 
 void CListView::timerEvent(QTimerEvent* event) {

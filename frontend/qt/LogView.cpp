@@ -16,12 +16,15 @@ namespace qt {
 namespace {
 
 constexpr int kUpdateMs = 40;
+// Narrow, since a log of the least size has room for two lines, of which the last is always empty.
+constexpr qreal kMarginPixels = 2;
 
 }
 
 CLogView::CLogView(QWidget* parent) : QPlainTextEdit(parent), m_limit(panel::kNoTextLimit) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
+    document()->setDocumentMargin(kMarginPixels);
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

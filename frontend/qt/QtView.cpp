@@ -2,6 +2,7 @@
 
 #include "frontend/qt/ControlBuilder.h"
 #include "frontend/qt/ControlRelations.h"
+#include "frontend/qt/ControlText.h"
 #include "frontend/qt/FocusMemory.h"
 #include "frontend/qt/Font.h"
 #include "frontend/qt/HandlerLink.h"
@@ -11,11 +12,7 @@
 #include "frontend/qt/Text.h"
 #include "frontend/qt/ViewWidget.h"
 
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
-#include <QPushButton>
 
 #include <algorithm>
 #include <utility>
@@ -29,38 +26,8 @@ using panel::ControlKind;
 
 panel::Size SizeOf(const QWidget& widget) { return {widget.width(), widget.height()}; }
 
-void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
-    switch (kind) {
-    case ControlKind::GroupBox:
-        static_cast<QGroupBox&>(widget).setTitle(WithoutMnemonic(text));
-        break;
-    case ControlKind::Label:
-    case ControlKind::CentredLabel: {
-        auto& label = static_cast<QLabel&>(widget);
-        label.setText(label.buddy() ? WithoutMnemonic(text) : text);
-        break;
-    }
-    case ControlKind::TextField:
-    case ControlKind::NumberField:
-        static_cast<QLineEdit&>(widget).setText(text);
-        static_cast<QLineEdit&>(widget).setCursorPosition(0);
-        break;
-    case ControlKind::Button:
-    case ControlKind::DefaultButton:
-        static_cast<QPushButton&>(widget).setText(WithoutMnemonic(text));
-        break;
-    default:
-        break;
-    }
-}
-
 bool HasMnemonic(ControlKind kind) {
     return kind != ControlKind::TextField && kind != ControlKind::NumberField;
-}
-
-bool HasText(ControlKind kind) {
-    return kind != ControlKind::MultiSelectList && kind != ControlKind::SingleSelectList &&
-           kind != ControlKind::Log && kind != ControlKind::ProgressBar;
 }
 
 }
@@ -91,6 +58,9 @@ void CQtView::Build(const panel::DialogTemplate& dialogTemplate) {
                                 dynamic_cast<CListView*>(widget), dynamic_cast<CLogView*>(widget)});
     }
     RelateControls(dialogTemplate, *m_widget);
+    for (const auto& [id, control] : m_controls) {
+        FitText(*control.widget, control.kind, control.text);
+    }
 }
 
 // The widgets go later: one of them may be in the middle of the event that brought us here.
@@ -182,6 +152,7 @@ panel::Rectangle CQtView::GetRectangle(ControlId id) const {
 void CQtView::Move(ControlId id, const panel::Rectangle& rectangle) {
     if (const Control* const control = Find(id)) {
         control->widget->setGeometry(rectangle.x, rectangle.y, rectangle.width, rectangle.height);
+        FitText(*control->widget, control->kind, control->text);
         control->widget->update();
     }
 }

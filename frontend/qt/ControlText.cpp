@@ -1,0 +1,82 @@
+#include "frontend/qt/ControlText.h"
+
+#include "frontend/qt/Font.h"
+#include "frontend/qt/Text.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextDocument>
+
+namespace qt {
+
+namespace {
+
+using panel::ControlKind;
+
+// What frame and toolkit take of a control's width.
+constexpr int kFieldMarginPixels = 8;
+constexpr int kButtonMarginPixels = 4;
+
+void FitText(QWidget& widget, const QString& text, int room) {
+    widget.setFont(FitFont(widget.parentWidget()->font(), text, room));
+}
+
+// A text too long even so can be read in a tool tip.
+void FitField(QWidget& field, const QString& text) {
+    const int room = field.width() - kFieldMarginPixels;
+    FitText(field, text, room);
+    const bool fits = field.fontMetrics().horizontalAdvance(text) <= room;
+    field.setToolTip(fits ? QString() : Qt::convertFromPlainText(text));
+}
+
+}
+
+bool HasText(ControlKind kind) {
+    return kind != ControlKind::MultiSelectList && kind != ControlKind::SingleSelectList &&
+           kind != ControlKind::Log && kind != ControlKind::ProgressBar;
+}
+
+void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
+    switch (kind) {
+    case ControlKind::GroupBox:
+        static_cast<QGroupBox&>(widget).setTitle(WithoutMnemonic(text));
+        break;
+    case ControlKind::Label:
+    case ControlKind::CentredLabel: {
+        auto& label = static_cast<QLabel&>(widget);
+        label.setText(label.buddy() ? WithoutMnemonic(text) : text);
+        break;
+    }
+    case ControlKind::TextField:
+    case ControlKind::NumberField:
+        static_cast<QLineEdit&>(widget).setText(text);
+        static_cast<QLineEdit&>(widget).setCursorPosition(0);
+        break;
+    case ControlKind::Button:
+    case ControlKind::DefaultButton:
+        static_cast<QPushButton&>(widget).setText(WithoutMnemonic(text));
+        break;
+    default:
+        break;
+    }
+    FitText(widget, kind, text);
+}
+
+void FitText(QWidget& widget, ControlKind kind, const QString& text) {
+    switch (kind) {
+    case ControlKind::TextField:
+    case ControlKind::NumberField:
+        FitField(widget, text);
+        break;
+    case ControlKind::Button:
+    case ControlKind::DefaultButton:
+        FitText(widget, text, widget.width() - kButtonMarginPixels);
+        break;
+    default:
+        break;
+    }
+}
+
+}

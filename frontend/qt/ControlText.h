@@ -1,0 +1,19 @@
+#pragma once
+
+#include "panel/control/DialogTemplate.h"
+
+class QString;
+class QWidget;
+
+namespace qt {
+
+/// Whether a control of that kind shows one text, as IView::SetText sets it.
+bool HasText(panel::ControlKind kind);
+
+/// Shows `text` in the widget of a control as it is, marking no mnemonic.
+void ShowText(QWidget& widget, panel::ControlKind kind, const QString& text);
+
+/// Condenses the font of a button or field whose text would not fit its size.
+void FitText(QWidget& widget, panel::ControlKind kind, const QString& text);
+
+}
