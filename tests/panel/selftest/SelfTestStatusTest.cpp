@@ -1,0 +1,287 @@
+#include "tests/support/RoomFixture.h"
+
+namespace {
+
+using namespace panel;
+using namespace simulator;
+using namespace support;
+using contract::SelfTest;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+DeviceDescription DeviceWithResult(SelfTest test, std::int32_t code) {
+    DeviceDescription device = HealthyDevice(kKrx20);
+    device.selfTests[test] = code;
+    return device;
+}
+
+Shown CannotGetResults(contract::Status status, const std::string& description = "") {
+    return ErrorReport("Cannot get self-test results", "Prommer Maintenance", status, description);
+}
+
+// The query of the refresh
+
+class SelfTestStatusTest : public RoomFixture {
+protected:
+    bool Query() { return rooms->selfTests.QuerySelfTestStatus(); }
+};
+
+TEST_F(SelfTestStatusTest, AllTestsOkCountAsPassed) {
+    Insert(HealthyDevice(kKrx20));
+    EXPECT_TRUE(Query());
+    EXPECT_EQ(faults->Calls("ProgrammingDeviceControl.GetSelfTestResults"), 1u);
+    EXPECT_EQ(faults->Calls("SelfTestResults.GetResult"), 21u);
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(SelfTestStatusTest, IgnoredAndNotRunTestsCountAsPassed) {
+    DeviceDescription device = HealthyDevice(kKrx20);
+    for (std::int32_t test = 1; test <= 21; ++test) {
+        device.selfTests[static_cast<SelfTest>(test)] = test % 3 == 0 ? 0 : test % 3 == 1 ? 2 : 787;
+    }
+    Insert(device);
+    EXPECT_TRUE(Query());
+}
+
+TEST_F(SelfTestStatusTest, UnknownResultCountsAsFailed) {
+    Insert(DeviceWithResult(SelfTest::Flash, 796));
+    EXPECT_FALSE(Query());
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(SelfTestStatusTest, LogLineIsWrittenBeforeTheFirstCall) {
+    Insert(HealthyDevice(kKrx20));
+    std::vector<std::string> log;
+    faults->RunBefore({1, "ProgrammingDeviceControl.GetSelfTestResults"}, [&] { log = Log(); });
+    Query();
+    EXPECT_THAT(log, ElementsAre("Querying self-tests results"));
+    EXPECT_EQ(Log(), log);
+}
+
+TEST_F(SelfTestStatusTest, RefreshIsHeldBackForTheFirstCallOnly) {
+    Insert(HealthyDevice(kKrx20));
+    std::vector<bool> isAllowed;
+    const auto look = [&] { isAllowed.push_back(State().refreshAllowed); };
+    faults->RunBefore({1, "ProgrammingDeviceControl.GetSelfTestResults"}, look);
+    faults->RunAfter({1, "ProgrammingDeviceControl.GetSelfTestResults"}, look);
+    faults->RunBefore({1, "SelfTestResults.GetResult"}, look);
+    Query();
+    EXPECT_THAT(isAllowed, ElementsAre(false, false, true));
+}
+
+TEST_F(SelfTestStatusTest, QueryReleasesTheResults) {
+    Insert(HealthyDevice(kKrx20));
+    const auto wrappers = interception.LiveWrappers();
+    Query();
+    EXPECT_EQ(interception.LiveWrappers(), wrappers);
+}
+
+struct RowCase {
+    std::size_t row;
+    SelfTest test;
+};
+
+void PrintTo(const RowCase& value, std::ostream* out) { *out << "row " << value.row; }
+
+class SingleFailureTest : public SelfTestStatusTest, public testing::WithParamInterface<RowCase> {};
+
+TEST_P(SingleFailureTest, QueryStopsAtTheTestThatFailed) {
+    Insert(DeviceWithResult(GetParam().test, 1));
+    EXPECT_FALSE(Query());
+    EXPECT_EQ(faults->Calls("SelfTestResults.GetResult"), GetParam().row);
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, SingleFailureTest,
+    testing::Values(RowCase{1, SelfTest{3}}, RowCase{2, SelfTest{4}}, RowCase{3, SelfTest{9}},
+                    RowCase{4, SelfTest{18}}, RowCase{5, SelfTest{7}}, RowCase{6, SelfTest{6}},
+                    RowCase{7, SelfTest{12}}, RowCase{8, SelfTest{21}}, RowCase{9, SelfTest{1}},
+                    RowCase{10, SelfTest{2}}, RowCase{11, SelfTest{16}}, RowCase{12, SelfTest{11}},
+                    RowCase{13, SelfTest{14}}, RowCase{14, SelfTest{17}}, RowCase{15, SelfTest{8}},
+                    RowCase{16, SelfTest{13}}, RowCase{17, SelfTest{5}}, RowCase{18, SelfTest{20}},
+                    RowCase{19, SelfTest{10}}, RowCase{20, SelfTest{19}},
+                    RowCase{21, SelfTest{15}}));
+
+// Failures of the query
+
+TEST_F(SelfTestStatusTest, FailingResultsAreReportedAsNotPassed) {
+    Insert(HealthyDevice(kKrx20));
+    faults->Fail({1, "ProgrammingDeviceControl.GetSelfTestResults"},
+                 {contract::kUnspecifiedFailure, "still testing"});
+    EXPECT_FALSE(Query());
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(CannotGetResults(contract::kUnspecifiedFailure, "still testing")));
+    EXPECT_TRUE(State().refreshAllowed);
+    EXPECT_EQ(faults->Calls("SelfTestResults.GetResult"), 0u);
+}
+
+TEST_F(SelfTestStatusTest, NullResultsAreReportedAsNotPassed) {
+    Insert(HealthyDevice(kKrx20));
+    faults->DeliverNull({1, "ProgrammingDeviceControl.GetSelfTestResults"});
+    EXPECT_FALSE(Query());
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(CannotGetResults(contract::Status::FromBits(0x80004003))));
+}
+
+TEST_F(SelfTestStatusTest, QueryWithoutControlIsReportedAsNotPassed) {
+    EXPECT_FALSE(Query());
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(CannotGetResults(contract::Status::FromBits(0x80004003))));
+    EXPECT_THAT(Log(), ElementsAre("Querying self-tests results"));
+    EXPECT_TRUE(State().refreshAllowed);
+}
+
+TEST_F(SelfTestStatusTest, RefreshIsAllowedWhileAFailureIsShown) {
+    Insert(HealthyDevice(kKrx20));
+    bool isAllowed = false;
+    messageService->whileOpen = [&] { isAllowed = State().refreshAllowed; };
+    faults->Fail({1, "ProgrammingDeviceControl.GetSelfTestResults"});
+    Query();
+    EXPECT_TRUE(isAllowed);
+}
+
+class FailingResultTest : public SelfTestStatusTest,
+                          public testing::WithParamInterface<std::size_t> {};
+
+TEST_P(FailingResultTest, FailingResultIsReportedOnceAndEndsTheQuery) {
+    Insert(HealthyDevice(kKrx20));
+    const auto wrappers = interception.LiveWrappers();
+    faults->Fail({GetParam(), "SelfTestResults.GetResult"},
+                 {contract::Status::FromBits(0x8007001E), "line lost"});
+    EXPECT_FALSE(Query());
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(CannotGetResults(contract::Status::FromBits(0x8007001E), "line lost")));
+    EXPECT_EQ(faults->Calls("SelfTestResults.GetResult"), GetParam());
+    EXPECT_EQ(interception.LiveWrappers(), wrappers);
+}
+
+INSTANTIATE_TEST_SUITE_P(Queries, FailingResultTest, testing::Values(1u, 5u, 21u));
+
+// The Details command
+
+class DetailsTest : public PanelFixture {
+protected:
+    void SetUp() override {
+        StartPanel();
+        ConnectDevice(DeviceWithResult(SelfTest::Usb, 1));
+        ForgetWhatWasSeen();
+    }
+
+    /// Runs inside the next reading of the results; the refresh has read them once already.
+    void InsideReading(std::function<void()> action) {
+        faults->RunBefore({2, "ProgrammingDeviceControl.GetSelfTestResults"}, std::move(action));
+    }
+    void FailReading() {
+        faults->Fail({2, "ProgrammingDeviceControl.GetSelfTestResults"},
+                     {contract::kUnspecifiedFailure, "still testing"});
+    }
+};
+
+TEST_F(DetailsTest, PressingDetailsShowsTheDialogOverThePanel) {
+    desktop->prompts.AnswerDialog();
+    ASSERT_TRUE(PressButton(kDetailsButton));
+    EXPECT_THAT(desktop->prompts.Dialogs(),
+                ElementsAre(headless::ShownDialog{201, Owner::Panel, DialogOutcome::Closed(2)}));
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+    EXPECT_THAT(Log(), IsEmpty());
+}
+
+TEST_F(DetailsTest, DetailsReadsTheResultsAnew) {
+    desktop->prompts.AnswerDialog();
+    PressButton(kDetailsButton);
+    const auto calls = TakeCalls();
+    ASSERT_EQ(calls.size(), 22u);
+    EXPECT_EQ(calls.front(), "ProgrammingDeviceControl.GetSelfTestResults");
+    EXPECT_THAT(std::vector(calls.begin() + 1, calls.end()),
+                testing::Each("SelfTestResults.GetResult"));
+}
+
+TEST_F(DetailsTest, RefreshIsHeldBackWhileResultsAreReadOnly) {
+    std::vector<bool> isAllowed;
+    InsideReading([&] { isAllowed.push_back(State().refreshAllowed); });
+    desktop->prompts.AnswerDialog(
+        [&](headless::CHeadlessView&) { isAllowed.push_back(State().refreshAllowed); });
+    PressButton(kDetailsButton);
+    EXPECT_THAT(isAllowed, ElementsAre(false, true));
+}
+
+TEST_F(DetailsTest, WaitCursorShowsWhileResultsAreReadOnly) {
+    std::vector<int> depths;
+    InsideReading([&] { depths.push_back(desktop->cursorDepth); });
+    desktop->prompts.AnswerDialog(
+        [&](headless::CHeadlessView&) { depths.push_back(desktop->cursorDepth); });
+    PressButton(kDetailsButton);
+    EXPECT_THAT(depths, ElementsAre(1, 0));
+}
+
+TEST_F(DetailsTest, ReadyStateWhileResultsAreReadStartsNoRefresh) {
+    InsideReading([this] { RaiseState(7); });
+    desktop->prompts.AnswerDialog();
+    PressButton(kDetailsButton);
+    EXPECT_EQ(faults->Calls("HardwareInfo.GetDeviceType"), 2u);
+    EXPECT_EQ(faults->Calls("ProgrammingDeviceControl.GetFileListing"), 1u);
+    EXPECT_EQ(desktop->highestCursorDepth, 2);
+}
+
+TEST_F(DetailsTest, ReadyStateWhileTheDialogIsOpenRefreshes) {
+    desktop->prompts.AnswerDialog([this](headless::CHeadlessView&) { RaiseState(7); });
+    PressButton(kDetailsButton);
+    EXPECT_EQ(faults->Calls("ProgrammingDeviceControl.GetFileListing"), 2u);
+    EXPECT_EQ(RowCount(), 3);
+}
+
+TEST_F(DetailsTest, FailingResultsAreReportedWithoutDialog) {
+    FailReading();
+    PressButton(kDetailsButton);
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(CannotGetResults(contract::kUnspecifiedFailure, "still testing")));
+    EXPECT_THAT(desktop->prompts.Dialogs(), IsEmpty());
+    EXPECT_TRUE(State().refreshAllowed);
+}
+
+TEST_F(DetailsTest, NullResultsAreReportedWithoutDialog) {
+    faults->DeliverNull({2, "ProgrammingDeviceControl.GetSelfTestResults"});
+    PressButton(kDetailsButton);
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(CannotGetResults(contract::Status::FromBits(0x80004003))));
+    EXPECT_THAT(desktop->prompts.Dialogs(), IsEmpty());
+}
+
+TEST_F(DetailsTest, CursorIsRestoredWhileAFailureIsShown) {
+    int depth = -1;
+    messageService->whileOpen = [&] { depth = desktop->cursorDepth; };
+    FailReading();
+    PressButton(kDetailsButton);
+    EXPECT_EQ(depth, 0);
+}
+
+TEST_F(DetailsTest, ResultsAreHeldForTheDialogAndThenReleased) {
+    const auto wrappers = interception.LiveWrappers();
+    std::size_t whileOpen = 0;
+    desktop->prompts.AnswerDialog(
+        [&](headless::CHeadlessView&) { whileOpen = interception.LiveWrappers(); });
+    PressButton(kDetailsButton);
+    EXPECT_EQ(whileOpen, wrappers + 1);
+    EXPECT_EQ(interception.LiveWrappers(), wrappers);
+}
+
+TEST_F(DetailsTest, DialogThatCannotBeMadeLeavesNothingBehind) {
+    const auto wrappers = interception.LiveWrappers();
+    desktop->prompts.FailDialog(1407);
+    PressButton(kDetailsButton);
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+    EXPECT_EQ(interception.LiveWrappers(), wrappers);
+    EXPECT_TRUE(State().refreshAllowed);
+}
+
+TEST_F(DetailsTest, PanelMayEndWhileTheDialogIsOpen) {
+    desktop->prompts.AnswerDialog([this](headless::CHeadlessView&) {
+        panel->DestroyView();
+        panel.reset();
+    });
+    PressButton(kDetailsButton);
+    EXPECT_EQ(interception.LiveWrappers(), 0u);
+}
+
+}
