@@ -27,15 +27,17 @@ protected:
             *operation, [&] { return (m_target.get()->*method)(arguments...); });
     }
 
-    /// An operation that delivers an object, as its last parameter. The caller gets its wrapper.
+    /// An operation that delivers an object, as its last parameter. The caller gets its wrapper,
+    /// unless the interceptor has no use for it.
     template <auto method, class Object, class... Arguments>
     contract::Status CallForObject(ObjectOperation operation, std::shared_ptr<Object>& result,
                                    const Arguments&... arguments) {
         std::shared_ptr<Object> delivered;
-        const contract::Status status = Registry().Interceptor().Call(
+        auto& interceptor = Registry().Interceptor();
+        const contract::Status status = interceptor.Call(
             *operation, [&] { return (m_target.get()->*method)(arguments..., delivered); });
         if (status.IsSuccess())
-            result = Registry().Wrap(delivered);
+            result = interceptor.WrapsResultOf(*operation) ? Registry().Wrap(delivered) : delivered;
         return status;
     }
 

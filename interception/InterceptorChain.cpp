@@ -1,5 +1,6 @@
 #include "interception/InterceptorChain.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace interception {
@@ -10,6 +11,11 @@ CInterceptorChain::CInterceptorChain(Links links) : m_links(std::move(links)) {}
 
 Status CInterceptorChain::Call(const Operation& operation, FunctionRef<Status()> run) {
     return CallFrom(0, operation, run);
+}
+
+bool CInterceptorChain::WrapsResultOf(const Operation& operation) const {
+    return std::any_of(m_links.begin(), m_links.end(),
+                       [&](const auto& link) { return link->WrapsResultOf(operation); });
 }
 
 Status CInterceptorChain::Deliver(const Operation& event, std::function<Status()> deliver) {

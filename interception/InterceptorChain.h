@@ -20,6 +20,8 @@ public:
     explicit CInterceptorChain(Links links);
 
     contract::Status Call(const Operation& operation, FunctionRef<contract::Status()> run) override;
+    /// If one of the links wants it.
+    bool WrapsResultOf(const Operation& operation) const override;
     contract::Status Deliver(const Operation& event,
                              std::function<contract::Status()> deliver) override;
 

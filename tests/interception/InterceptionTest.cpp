@@ -177,6 +177,26 @@ TEST(InterceptionOnWorkerTest, ResultsOfACallElsewhereReachTheCaller) {
     EXPECT_EQ(delivered, interception.Wrap(info));
 }
 
+/// Has no use for what listings deliver.
+class CUninterested final : public IInterceptor {
+public:
+    Status Call(const Operation&, FunctionRef<Status()> run) override { return run(); }
+    bool WrapsResultOf(const Operation& operation) const override {
+        return operation.name != "FileListing.GetFileInfo";
+    }
+};
+
+TEST(InterceptionWithoutInterestTest, ObjectIsDeliveredAsItIs) {
+    const auto interceptor = std::make_shared<CUninterested>();
+    const CInterception interception(interceptor);
+    const auto target = MakeTarget<IFileListing>();
+    const std::shared_ptr<IFileInfo> info = MakeTarget<IFileInfo>();
+    target->exchange.object = info;
+    std::shared_ptr<IFileInfo> delivered;
+    EXPECT_EQ(interception.Wrap<IFileListing>(target)->GetFileInfo(1, delivered), kSuccess);
+    EXPECT_EQ(delivered, info);
+}
+
 /// Turns every success into a failure.
 class CSpoiler final : public IInterceptor {
 public:

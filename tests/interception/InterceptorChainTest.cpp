@@ -60,6 +60,24 @@ protected:
     std::shared_ptr<IInterceptor> m_second = std::make_shared<CWitness>(m_trace, "second");
 };
 
+/// Says whether it has a use for results.
+class CListener final : public IInterceptor {
+public:
+    explicit CListener(bool isInterested) : m_isInterested(isInterested) {}
+    Status Call(const Operation&, FunctionRef<Status()> run) override { return run(); }
+    bool WrapsResultOf(const Operation&) const override { return m_isInterested; }
+
+private:
+    const bool m_isInterested;
+};
+
+TEST_F(InterceptorChainTest, ResultsAreWrappedForOneInterestedLink) {
+    const auto uninterested = std::make_shared<CListener>(false);
+    EXPECT_FALSE(CInterceptorChain({uninterested, uninterested}).WrapsResultOf(kCall));
+    EXPECT_TRUE(
+        CInterceptorChain({uninterested, std::make_shared<CListener>(true)}).WrapsResultOf(kCall));
+}
+
 TEST_F(InterceptorChainTest, EmptyChainLetsEverythingHappen) {
     CInterceptorChain chain({});
     EXPECT_EQ(chain.Call(kCall, [] { return Status(2); }), Status(2));
