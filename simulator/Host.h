@@ -28,8 +28,7 @@ class CProductInformation;
 
 /// How a CHost treats the knobs in the descriptions of its devices.
 struct KnobOptions {
-    /// Off for callers that put interceptors of their own before the host and count every
-    /// nanosecond: knobs cost a wrapper for each object, also while no knob is turned.
+    /// Off for callers that put interceptors of their own before the host and want to be alone.
     bool areApplied = true;
     /// Waits for the time that a call is said to take.
     interception::CLatency::Sleep sleep = interception::CLatency::WaitOnThisThread;

@@ -20,6 +20,12 @@ public:
         return knobs ? knobs->Call(operation, run) : run();
     }
 
+    /// What the control makes of a device lives shortly, so that it is wrapped for knobs only. All
+    /// else may live until a device with knobs comes.
+    bool WrapsResultOf(const interception::Operation& operation) const override {
+        return m_knobs || !operation.name.starts_with("ProgrammingDeviceControl.Get");
+    }
+
 private:
     std::shared_ptr<interception::IInterceptor> m_knobs;
 };

@@ -84,6 +84,15 @@ TEST_F(KnobsTest, NextDeviceIsFreeOfTheOldKnobs) {
     EXPECT_EQ(CallGetHardwareInfo(), kSuccess);
 }
 
+TEST_F(KnobsTest, ControlObtainedBeforeReachesTheKnobsOfLaterDevices) {
+    InsertDevice({});
+    const auto control = Control();
+    InsertDeviceWithFault({"HardwareInfo.GetDeviceType", 1, false, contract::Status(-3), ""});
+    const auto info = ObjectOf(*control, &contract::IProgrammingDeviceControl::GetHardwareInfo);
+    std::int32_t type = 0;
+    EXPECT_EQ(info->GetDeviceType(type), contract::Status(-3));
+}
+
 TEST_F(KnobsTest, DefaultLatencyAppliesToDeviceOperations) {
     InsertDeviceWithLatency({5, {}});
     EXPECT_EQ(CallGetHardwareInfo(), kSuccess);
