@@ -18,11 +18,15 @@ CConnectionGate::CConnectionGate(std::function<bool()> isPanelBusy)
     : m_isPanelBusy(std::move(isPanelBusy)) {}
 
 void CConnectionGate::RunWhenIdle(Action action) {
-    Enqueue(std::move(action));
-    RunWaiting();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waiting.push_back(std::move(action));
+    }
+    // By way of the event loop, since the caller may be the panel's own command.
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
 }
 
-bool CConnectionGate::IsIdle() { return !m_isRunning && !m_isPanelBusy() && IsEmpty(); }
+bool CConnectionGate::IsIdle() { return !m_isRunning && !m_isPanelBusy() && !HasWaiting(); }
 
 contract::Status CConnectionGate::Call(const interception::Operation&,
                                        interception::FunctionRef<contract::Status()> run) {
@@ -31,16 +35,11 @@ contract::Status CConnectionGate::Call(const interception::Operation&,
 
 contract::Status CConnectionGate::Deliver(const interception::Operation&,
                                           std::function<contract::Status()> deliver) {
-    const bool isOurThread = QThread::currentThread() == thread();
-    if (isOurThread && m_isRunning && !m_isDelivering) {
-        const QScopedValueRollback delivering(m_isDelivering, true);
+    if (QThread::currentThread() == thread() && m_isOpen) {
+        const QScopedValueRollback closedMeanwhile(m_isOpen, false);
         return deliver();
     }
-    Enqueue([deliver = std::move(deliver)] { static_cast<void>(deliver()); });
-    if (isOurThread)
-        RunWaiting();
-    else
-        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    RunWhenIdle([deliver = std::move(deliver)] { static_cast<void>(deliver()); });
     return contract::kSuccess;
 }
 
@@ -53,14 +52,9 @@ bool CConnectionGate::event(QEvent* event) {
 
 void CConnectionGate::timerEvent(QTimerEvent*) { RunWaiting(); }
 
-void CConnectionGate::Enqueue(Action action) {
+bool CConnectionGate::HasWaiting() {
     const std::lock_guard lock(m_mutex);
-    m_waiting.push_back(std::move(action));
-}
-
-bool CConnectionGate::IsEmpty() {
-    const std::lock_guard lock(m_mutex);
-    return m_waiting.empty();
+    return !m_waiting.empty();
 }
 
 CConnectionGate::Action CConnectionGate::TakeFirst() {
@@ -71,15 +65,14 @@ CConnectionGate::Action CConnectionGate::TakeFirst() {
 }
 
 void CConnectionGate::RunWaiting() {
-    while (!m_isRunning && !IsEmpty() && !m_isPanelBusy()) {
+    while (!m_isRunning && HasWaiting() && !m_isPanelBusy()) {
         const QScopedValueRollback running(m_isRunning, true);
         TakeFirst()();
     }
-    if (IsEmpty()) {
+    if (m_timer != 0)
         killTimer(std::exchange(m_timer, 0));
-    } else if (m_timer == 0) {
+    if (HasWaiting())
         m_timer = startTimer(kLookAgainMs);
-    }
 }
 
 }

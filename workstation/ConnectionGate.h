@@ -11,23 +11,39 @@
 namespace workstation {
 
 /// Holds back what must not happen inside a command or refresh of the panel, above all the states
-/// of the connection, until the panel is idle; then does it in the order in which it came.
+/// of the connection, until the panel is idle; then does it, one after the other in the order in
+/// which it came, from the event loop and on the user-interface thread.
 ///
 /// As the interceptor of a connection it lets calls through as they are and holds back events, from
-/// whatever thread. It belongs to the user-interface thread, on which everything held back is done.
+/// whatever thread.
 class CConnectionGate : public QObject, public interception::IInterceptor {
 public:
     using Action = std::function<void()>;
 
-    /// `isPanelBusy` answers whether a command or refresh of the panel is running.
+    /// `isPanelBusy` answers whether a command or refresh of the panel is running; asked from the
+    /// event loop only.
     explicit CConnectionGate(std::function<bool()> isPanelBusy);
 
-    /// Does `action` at once when the panel is idle and nothing waits before it, else later.
-    /// Connection states raised by the action itself reach the panel at once. User-interface thread
-    /// only.
+    /// Has `action` done as soon as the panel is idle; never before this returns. Any thread.
     void RunWhenIdle(Action action);
-    /// Whether an action would be done at once.
+
+    /// Whether no action is being done or waits, and the panel is idle. To be asked from the event
+    /// loop of the user-interface thread.
     bool IsIdle();
+
+    /// While it lives, connection states pass to the panel at once: for the states that an action
+    /// itself raises. What is raised while the panel handles one of them is held back again.
+    /// User-interface thread only.
+    class COpening {
+    public:
+        explicit COpening(CConnectionGate& gate) : m_gate(gate) { m_gate.m_isOpen = true; }
+        ~COpening() { m_gate.m_isOpen = false; }
+        COpening(const COpening&) = delete;
+        COpening& operator=(const COpening&) = delete;
+
+    private:
+        CConnectionGate& m_gate;
+    };
 
     contract::Status Call(const interception::Operation& operation,
                           interception::FunctionRef<contract::Status()> run) override;
@@ -40,16 +56,15 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    void Enqueue(Action action);
-    bool IsEmpty();
+    bool HasWaiting();
     Action TakeFirst();
     void RunWaiting();
 
     const std::function<bool()> m_isPanelBusy;
     std::mutex m_mutex;
     std::deque<Action> m_waiting;
-    bool m_isRunning = false;    ///< an action is being done
-    bool m_isDelivering = false; ///< the panel is handling a state that the action raised
+    bool m_isOpen = false;
+    bool m_isRunning = false;
     int m_timer = 0;
 };
 

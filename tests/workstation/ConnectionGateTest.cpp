@@ -30,15 +30,21 @@ protected:
         m_done.push_back(name);
         return kSuccess;
     }
+    void Do(CConnectionGate::Action action) { m_gate.RunWhenIdle(std::move(action)); }
+    bool UntilDone(std::size_t count) {
+        return Until([&] { return m_done.size() >= count; });
+    }
 
     bool m_isPanelBusy = false;
     std::vector<std::string> m_done;
     CConnectionGate m_gate{[this] { return m_isPanelBusy; }};
 };
 
-TEST_F(ConnectionGateTest, ActionWhileIdleIsDoneAtOnce) {
-    m_gate.RunWhenIdle([this] { static_cast<void>(Note("action")); });
-    EXPECT_THAT(m_done, ElementsAre("action"));
+TEST_F(ConnectionGateTest, ActionIsDoneFromTheEventLoop) {
+    Do([this] { static_cast<void>(Note("action")); });
+    EXPECT_THAT(m_done, IsEmpty());
+    EXPECT_FALSE(m_gate.IsIdle());
+    ASSERT_TRUE(UntilDone(1));
     EXPECT_TRUE(m_gate.IsIdle());
 }
 
@@ -46,53 +52,68 @@ TEST_F(ConnectionGateTest, StateWhilePanelIsBusyWaitsForItsEnd) {
     m_isPanelBusy = true;
     Raise("gone");
     Raise("ready");
+    QCoreApplication::processEvents();
     EXPECT_THAT(m_done, IsEmpty());
-    EXPECT_FALSE(m_gate.IsIdle());
     m_isPanelBusy = false;
-    EXPECT_FALSE(m_gate.IsIdle()) << "something waits";
-    ASSERT_TRUE(Until([this] { return m_done.size() == 2; }));
+    ASSERT_TRUE(UntilDone(2));
     EXPECT_THAT(m_done, ElementsAre("gone", "ready"));
     EXPECT_TRUE(m_gate.IsIdle());
 }
 
-TEST_F(ConnectionGateTest, StateRaisedByActionIsDeliveredInside) {
-    m_gate.RunWhenIdle([this] {
-        Raise("gone");
+TEST_F(ConnectionGateTest, StatesOfAnOpeningPassAtOnce) {
+    Do([this] {
+        {
+            const CConnectionGate::COpening opening(m_gate);
+            Raise("gone");
+            Raise("gone, second subscriber");
+        }
         static_cast<void>(Note("swapped"));
-        Raise("ready");
+        Raise("held back");
+        static_cast<void>(Note("action ended"));
     });
-    EXPECT_THAT(m_done, ElementsAre("gone", "swapped", "ready"));
+    ASSERT_TRUE(UntilDone(5));
+    EXPECT_THAT(m_done, ElementsAre("gone", "gone, second subscriber", "swapped", "action ended",
+                                    "held back"));
 }
 
 TEST_F(ConnectionGateTest, StateRaisedInsideADeliveryWaitsForTheAction) {
-    m_gate.RunWhenIdle([this] {
-        static_cast<void>(m_gate.Deliver(kStateEvent, [this] {
-            Raise("gone during the refresh");
-            return Note("refreshed");
-        }));
+    Do([this] {
+        const CConnectionGate::COpening opening(m_gate);
+        EXPECT_EQ(m_gate.Deliver(kStateEvent,
+                                 [this] {
+                                     Raise("gone during the refresh");
+                                     return Note("refreshed");
+                                 }),
+                  kSuccess);
         static_cast<void>(Note("action ended"));
     });
+    ASSERT_TRUE(UntilDone(3));
     EXPECT_THAT(m_done, ElementsAre("refreshed", "action ended", "gone during the refresh"));
 }
 
-TEST_F(ConnectionGateTest, ActionInsideAnActionWaits) {
-    m_gate.RunWhenIdle([this] {
-        m_gate.RunWhenIdle([this] { static_cast<void>(Note("inner")); });
+TEST_F(ConnectionGateTest, ActionInsideAnActionWaitsAlsoForItsEventLoop) {
+    Do([this] {
+        Do([this] { static_cast<void>(Note("inner")); });
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(m_gate.IsIdle());
         static_cast<void>(Note("outer"));
     });
+    ASSERT_TRUE(UntilDone(2));
     EXPECT_THAT(m_done, ElementsAre("outer", "inner"));
 }
 
 TEST_F(ConnectionGateTest, StateFromAnotherThreadArrivesOnOurs) {
     std::thread::id deliveredOn;
     std::thread([&] {
-        static_cast<void>(m_gate.Deliver(kStateEvent, [&] {
-            deliveredOn = std::this_thread::get_id();
-            return Note("gone");
-        }));
+        EXPECT_EQ(m_gate.Deliver(kStateEvent,
+                                 [&] {
+                                     deliveredOn = std::this_thread::get_id();
+                                     return Note("gone");
+                                 }),
+                  kSuccess);
     }).join();
     EXPECT_THAT(m_done, IsEmpty());
-    ASSERT_TRUE(Until([this] { return !m_done.empty(); }));
+    ASSERT_TRUE(UntilDone(1));
     EXPECT_EQ(deliveredOn, std::this_thread::get_id());
 }
 

@@ -1,0 +1,214 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <string>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Outcome {
+    int status = -1;
+    std::string output;
+    std::string errors;
+};
+
+QString Sample(const char* name) { return QString(KRX8_SAMPLES) + "/" + name; }
+
+/// The program itself, started where there is no display.
+class ProgramTest : public testing::Test {
+protected:
+    Outcome Run(const QStringList& arguments, const QString& program = KRX8_WORKSTATION) {
+        QProcess process;
+        process.setWorkingDirectory(m_folder.path());
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(name);
+        process.setProcessEnvironment(environment);
+        process.start(program, arguments);
+        EXPECT_TRUE(process.waitForFinished(60'000)) << "it hangs";
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+                process.readAllStandardError().toStdString()};
+    }
+
+    void ExpectRefusal(const QStringList& arguments, const std::string& line) {
+        const QStringList before = FolderContents();
+        const Outcome outcome = Run(arguments);
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_EQ(outcome.output, "");
+        EXPECT_EQ(outcome.errors, "krx8-workstation: " + line + "\n");
+        EXPECT_EQ(FolderContents(), before) << "nothing is written";
+    }
+
+    QString Path(const char* name) const { return m_folder.filePath(name); }
+    std::string PathText(const char* name) const { return Path(name).toStdString(); }
+    void Write(const QString& path, const char* text) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    QStringList FolderContents() const {
+        QStringList contents;
+        QDirIterator entries(m_folder.path(), QDir::AllEntries | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+        while (entries.hasNext())
+            contents << entries.next();
+        return contents;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(ProgramTest, UnknownOptionIsRefused) {
+    ExpectRefusal({"--colour"}, "unknown option '--colour'; --help lists the options");
+}
+
+TEST_F(ProgramTest, OptionWithoutValueIsRefused) {
+    ExpectRefusal({"--device"}, "option --device needs a value; --help lists the options");
+}
+
+TEST_F(ProgramTest, MissingFolderIsRefused) {
+    ExpectRefusal({"--device", Path("none"), "--snapshot", Path("s.png")},
+                  PathText("none") + ": there is no such folder");
+}
+
+TEST_F(ProgramTest, FileInPlaceOfAFolderIsRefused) {
+    Write(Path("file"), "text");
+    ExpectRefusal({"--device", Path("file"), "--text"}, PathText("file") + ": is not a folder");
+}
+
+TEST_F(ProgramTest, FolderThatIsNoDeviceIsRefused) {
+    ExpectRefusal({"--device", m_folder.path(), "--text"},
+                  m_folder.path().toStdString() +
+                      ": is not a device: there is no device.json in it");
+}
+
+TEST_F(ProgramTest, DamagedDeviceIsRefused) {
+    Write(Path("device.json"), "{\n  \"type\": \n}");
+    const Outcome outcome = Run({"--device", m_folder.path(), "--snapshot", Path("s.png")});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_THAT(outcome.errors, StartsWith("krx8-workstation: " + PathText("device.json") +
+                                           ":3: is not valid JSON: "));
+    EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1) << "one line";
+    EXPECT_FALSE(QFile::exists(Path("s.png")));
+}
+
+TEST_F(ProgramTest, UnreadableDeviceIsRefused) {
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir("device.json"));
+    const Outcome outcome = Run({"--device", m_folder.path(), "--text"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_THAT(outcome.errors,
+                StartsWith("krx8-workstation: " + PathText("device.json") + ": cannot be read: "));
+}
+
+TEST_F(ProgramTest, MissingRootIsRefused) {
+    ExpectRefusal({"--devices", Path("none")},
+                  PathText("none") + ": cannot be read: No such file or directory");
+}
+
+TEST_F(ProgramTest, UnwritableSnapshotIsRefused) {
+    const Outcome outcome =
+        Run({"--device", Sample("krx-20"), "--snapshot", Path("none/picture.png")});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errors, StartsWith("krx8-workstation: " + PathText("none/picture.png") +
+                                           ": cannot be written: "));
+    EXPECT_EQ(FolderContents(), QStringList());
+}
+
+TEST_F(ProgramTest, HelpNamesProgramAndOptions) {
+    const Outcome outcome = Run({"--help"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.output, StartsWith("Usage: krx8-workstation [OPTION]...\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("  --device FOLDER "));
+    EXPECT_EQ(outcome.errors, "");
+}
+
+TEST_F(ProgramTest, TextShowsEveryPartOfThePanel) {
+    const Outcome outcome = Run({"--device", Sample("krx-20"), "--text"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors, "");
+    for (const char* part :
+         {"KRX-20 Info\n", "\nS/N ", "\nHW ", "\nFlash Size (B) ", "\nFree Flash (B) ",
+          "\nSRAM Size (B) ", "\nFree SRAM (B) ", "\nBoot SW ", "\nFPGA ", "\nApplication SW ",
+          "\nSelf-test Status ", "\nIP address ", "\nFlash Box Files\n", "\nFile name ",
+          "Generation\n", "\nversion.fia ", "\nProgress Info\n",
+          "\nProgramming Device is in Normal mode\n"})
+        EXPECT_THAT(outcome.output, HasSubstr(part));
+}
+
+TEST_F(ProgramTest, TextOfEverySampleIsPrinted) {
+    for (const char* sample : {"krx-8", "krx-8c", "krx-10", "krx-20", "krx-21"}) {
+        const Outcome outcome = Run({"--device", Sample(sample), "--text"});
+        EXPECT_EQ(outcome.status, 0) << sample;
+        EXPECT_THAT(outcome.output, HasSubstr("\nFlash Box Files\n")) << sample;
+    }
+}
+
+TEST_F(ProgramTest, TextWithoutDeviceShowsAnEmptyPanel) {
+    const Outcome outcome = Run({"--text"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.output, StartsWith("KRX-8 Info\nS/N\n"));
+    EXPECT_EQ(outcome.output.find("Prommer"), std::string::npos);
+}
+
+TEST_F(ProgramTest, SnapshotIsAPictureOfTheWholeWindow) {
+    const Outcome outcome = Run({"--device", Sample("krx-20"), "--snapshot", Path("window.png")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.output, "The window is drawn in " + PathText("window.png") + "\n");
+    const QImage picture(Path("window.png"), "PNG");
+    EXPECT_GT(picture.width(), 850);
+    EXPECT_GT(picture.height(), 480);
+}
+
+TEST_F(ProgramTest, WithoutDisplayTextAndPictureAreMade) {
+    const Outcome outcome = Run({"--device", Sample("krx-20"), "--fallback", Path("panel.png")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.output,
+                StartsWith("There is no display: the panel follows as text.\nKRX-20 Info\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("The window is drawn in " + PathText("panel.png")));
+    EXPECT_FALSE(QImage(Path("panel.png"), "PNG").isNull());
+}
+
+TEST_F(ProgramTest, BoxesAreToldAndAnswered) {
+    const Outcome outcome = Run({"--device", Sample("krx-8c"), "--text"});
+    const Outcome other = Run({"--device", Sample("krx-21"), "--text"});
+    const Outcome third = Run({"--device", Sample("krx-10"), "--text"});
+    const std::string all = outcome.output + other.output + third.output;
+    EXPECT_THAT(all, HasSubstr("Box \"Prommer Maintenance\":\n"
+                               "    The Programming Device is not in Normal mode"));
+    EXPECT_THAT(all, HasSubstr("\nAnswered: OK\n"));
+}
+
+TEST_F(ProgramTest, RunScriptRefusesWhatTheProgramDoesNotKnow) {
+    const Outcome outcome = Run({"--colour"}, KRX8_RUN_SCRIPT);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "run: unknown option '--colour'; ./run --help lists the options\n");
+}
+
+TEST_F(ProgramTest, RunScriptRefusesAnOptionWithoutItsValue) {
+    const Outcome outcome = Run({"--text", "--device"}, KRX8_RUN_SCRIPT);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors,
+              "run: option --device needs a value; ./run --help lists the options\n");
+}
+
+TEST_F(ProgramTest, RunScriptHelpsWithTheProgramsOptionsToo) {
+    const Outcome outcome = Run({"--help"}, KRX8_RUN_SCRIPT);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.output, StartsWith("Usage: ./run [OPTION]...\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("\n  --snapshot FILE.png "));
+}
+
+}

@@ -1,0 +1,203 @@
+#include "workstation/Session.h"
+
+#include "tests/workstation/Devices.h"
+#include "tests/workstation/Until.h"
+#include "workstation/PanelFactory.h"
+#include "workstation/PromptAnswerer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QWidget>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// Keeps what a session tells.
+class RecordingObserver : public workstation::ISessionObserver {
+public:
+    void CallReturned(const interception::Operation& operation) override {
+        m_calls.emplace_back(operation.name);
+    }
+    void CallLasts(const interception::Operation& operation) override {
+        m_lasting.emplace_back(operation.name);
+    }
+    void ConnectionChanged() override { ++m_connectionChanges; }
+    void ProgressReported(const std::string& text, std::uint32_t, std::uint32_t) override {
+        m_progress.push_back(text);
+    }
+    void CloseRequested() override { ++m_closeRequests; }
+
+    auto CountOf(const std::string& operation) const {
+        return std::ranges::count(m_calls, operation);
+    }
+
+    std::vector<std::string> m_calls;
+    std::vector<std::string> m_lasting;
+    std::vector<std::string> m_progress;
+    int m_connectionChanges = 0;
+    int m_closeRequests = 0;
+};
+
+class SessionTest : public testing::Test {
+protected:
+    SessionTest() {
+        m_session.CreateView(m_parent);
+        m_parent.show();
+    }
+
+    void StartWith(std::shared_ptr<simulator::CDevice> device) {
+        const std::string name = device ? "first" : "";
+        m_session.Start(name, std::move(device));
+        ExpectIdle();
+    }
+    void Connect(std::shared_ptr<simulator::CDevice> device) {
+        m_session.Connect("second", std::move(device));
+        ExpectIdle();
+    }
+    void ExpectIdle() {
+        EXPECT_TRUE(Until([this] { return m_session.IsIdle(); }));
+    }
+
+    auto Refreshes() const { return m_observer.CountOf("SoftwareInfo.GetBootSwVersion"); }
+    template <class Widget = QWidget>
+    Widget* Control(int id) const {
+        return m_parent.findChild<Widget*>(QString("control-%1").arg(id));
+    }
+    QString SerialNumber() const { return Control<QLineEdit>(211)->text(); }
+    int ListedFiles() {
+        auto* const list = Control<QAbstractItemView>(224);
+        list->grab(); // what is listed is shown when it is painted
+        return list->model()->rowCount();
+    }
+
+    QWidget m_parent;
+    RecordingObserver m_observer;
+    workstation::CSession m_session{workstation::CreatePanel(), m_observer};
+    std::vector<std::string> m_boxes;
+    workstation::CPromptAnswerer m_answerer{
+        m_parent, [this](const std::string& box) { m_boxes.push_back(box); }};
+};
+
+TEST_F(SessionTest, StartWithDeviceCostsOneRefresh) {
+    StartWith(MakeDevice(3));
+    EXPECT_EQ(Refreshes(), 1);
+    EXPECT_EQ(SerialNumber(), "00-00-5E-00-53-07");
+    EXPECT_EQ(ListedFiles(), 3);
+    EXPECT_TRUE(m_session.IsConnected());
+    EXPECT_EQ(m_session.DeviceName(), "first");
+    EXPECT_THAT(m_boxes, IsEmpty());
+}
+
+TEST_F(SessionTest, StartWithoutDeviceReadsNothing) {
+    StartWith(nullptr);
+    EXPECT_EQ(Refreshes(), 0);
+    EXPECT_FALSE(m_session.IsConnected());
+    EXPECT_THAT(m_boxes, IsEmpty());
+}
+
+TEST_F(SessionTest, DeviceConnectedLaterCostsOneRefresh) {
+    StartWith(nullptr);
+    Connect(MakeDevice(3));
+    EXPECT_EQ(Refreshes(), 1);
+    EXPECT_EQ(ListedFiles(), 3);
+    EXPECT_EQ(m_session.DeviceName(), "second");
+}
+
+TEST_F(SessionTest, AnotherDeviceCostsOneRefreshAndIsShown) {
+    StartWith(MakeDevice(3));
+    simulator::DeviceDescription other = HealthyDevice(5);
+    other.network.macAddress = "00-00-5E-00-53-99";
+    Connect(simulator::CDevice::Create(other));
+    EXPECT_EQ(Refreshes(), 2);
+    EXPECT_EQ(SerialNumber(), "00-00-5E-00-53-99");
+    EXPECT_EQ(ListedFiles(), 5);
+    EXPECT_THAT(m_boxes, IsEmpty());
+}
+
+TEST_F(SessionTest, AnotherDeviceIsAskedForItsOwnMode) {
+    StartWith(MakeDevice());
+    simulator::DeviceDescription other = HealthyDevice();
+    other.mode = simulator::kServiceMode;
+    Connect(simulator::CDevice::Create(other));
+    EXPECT_EQ(m_observer.CountOf("ProgrammingDeviceControl.RequestMode"), 2);
+    EXPECT_THAT(m_boxes, SizeIs(1)) << "the warning that the device is not in Normal mode";
+}
+
+TEST_F(SessionTest, DisconnectDisablesThePanel) {
+    StartWith(MakeDevice());
+    EXPECT_TRUE(Control(224)->isEnabled());
+    m_session.Disconnect();
+    ExpectIdle();
+    EXPECT_FALSE(Control(224)->isEnabled());
+    EXPECT_FALSE(m_session.IsConnected());
+    EXPECT_EQ(m_session.DeviceName(), "");
+}
+
+TEST_F(SessionTest, DeviceLostDuringARefreshIsGoneAfterIt) {
+    StartWith(nullptr);
+    simulator::DeviceDescription leaving = HealthyDevice();
+    leaving.loss = simulator::DeviceLoss{"ProgrammingDeviceControl.GetFileListing", 1, {}};
+    Connect(simulator::CDevice::Create(leaving));
+    EXPECT_FALSE(m_session.IsConnected());
+    EXPECT_FALSE(Control(224)->isEnabled());
+    EXPECT_THAT(m_boxes, SizeIs(1)) << "the report of the listing that failed";
+}
+
+TEST_F(SessionTest, DeviceThatComesBackIsReadAgainAfterTheRefresh) {
+    StartWith(nullptr);
+    simulator::DeviceDescription leaving = HealthyDevice(3);
+    leaving.loss = simulator::DeviceLoss{"SoftwareInfo.GetBootSwVersion", 1, 2};
+    Connect(simulator::CDevice::Create(leaving));
+    EXPECT_TRUE(m_session.IsConnected());
+    EXPECT_TRUE(Control(224)->isEnabled());
+    EXPECT_EQ(Refreshes(), 2);
+    EXPECT_EQ(ListedFiles(), 3);
+}
+
+TEST_F(SessionTest, SlowDeviceIsReportedWhileItWorks) {
+    simulator::DeviceDescription slow = HealthyDevice();
+    slow.latency.operationsMs["ProgrammingDeviceControl.GetFileListing"] = 60;
+    StartWith(simulator::CDevice::Create(slow));
+    EXPECT_THAT(m_observer.m_lasting, testing::Contains("ProgrammingDeviceControl.GetFileListing"));
+}
+
+TEST_F(SessionTest, DeviceMessagesAreReportedAsProgress) {
+    const auto device = MakeDevice();
+    StartWith(device);
+    device->RaiseMessage("Uploading", 1, 2);
+    EXPECT_THAT(m_observer.m_progress, ElementsAre("Uploading"));
+}
+
+TEST_F(SessionTest, CloseButtonAsksAndTheViewOutlivesTheRequest) {
+    StartWith(MakeDevice());
+    Control<QPushButton>(230)->click();
+    EXPECT_EQ(m_observer.m_closeRequests, 1);
+    EXPECT_NE(Control(230), nullptr);
+}
+
+TEST_F(SessionTest, FailingDeviceIsReportedWithItsDescription) {
+    simulator::DeviceDescription failing = HealthyDevice();
+    simulator::Fault fault;
+    fault.operation = "ProgrammingDeviceControl.GetSoftwareInfo";
+    fault.description = "The cable is broken";
+    failing.faults.push_back(fault);
+    StartWith(simulator::CDevice::Create(failing));
+    ASSERT_THAT(m_boxes, SizeIs(1));
+    EXPECT_EQ(m_boxes[0], "Box \"Prommer Maintenance\":\n"
+                          "    Software Info request failed\n"
+                          "    HRESULT 0x80004005 (-2147467259)\n"
+                          "Answered: OK\n");
+}
+
+}

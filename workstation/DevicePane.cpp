@@ -1,0 +1,99 @@
+#include "workstation/DevicePane.h"
+
+#include "workstation/Text.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace workstation {
+
+namespace {
+
+constexpr int kListWidth = 150;
+constexpr int kFolderRole = Qt::UserRole;
+
+CDevicePane::Folder FolderOf(const QListWidgetItem& item) {
+    return item.data(kFolderRole).toString().toStdString();
+}
+
+QListWidgetItem* ItemOf(const CDevicePane::Folder& folder) {
+    auto* const item = new QListWidgetItem(NameOf(folder));
+    item->setData(kFolderRole, QString::fromStdString(folder.string()));
+    item->setToolTip(QString::fromStdString(folder.string()));
+    return item;
+}
+
+}
+
+CDevicePane::CDevicePane(QWidget* parent)
+    : QWidget(parent),
+      m_list(*new QListWidget),
+      m_connectButton(*new QPushButton("C&onnect")),
+      m_disconnectButton(*new QPushButton("Disco&nnect")) {
+    auto* const label = new QLabel("De&vices");
+    label->setBuddy(&m_list);
+    m_list.setObjectName("devices");
+    m_list.setFixedWidth(kListWidth);
+    m_connectButton.setObjectName("connect");
+    m_disconnectButton.setObjectName("disconnect");
+    auto* const column = new QVBoxLayout(this);
+    for (QWidget* widget :
+         {static_cast<QWidget*>(label), static_cast<QWidget*>(&m_list),
+          static_cast<QWidget*>(&m_connectButton), static_cast<QWidget*>(&m_disconnectButton)})
+        column->addWidget(widget);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    connect(&m_list, &QListWidget::itemActivated, [this] { ConnectCurrent(); });
+    connect(&m_list, &QListWidget::currentRowChanged, [this] { UpdateButtons(); });
+    connect(&m_connectButton, &QPushButton::clicked, [this] { ConnectCurrent(); });
+    UpdateButtons();
+}
+
+void CDevicePane::OnConnect(std::function<void(const Folder&)> connect) {
+    m_connect = std::move(connect);
+}
+
+void CDevicePane::OnDisconnect(std::function<void()> disconnect) {
+    connect(&m_disconnectButton, &QPushButton::clicked, std::move(disconnect));
+}
+
+void CDevicePane::ShowDevices(const std::vector<Folder>& folders) {
+    const QListWidgetItem* const before = m_list.currentItem();
+    const Folder chosen = before ? FolderOf(*before) : Folder();
+    m_list.clear();
+    for (const Folder& folder : folders)
+        m_list.addItem(ItemOf(folder));
+    Choose(chosen);
+    Mark(m_connected);
+}
+
+void CDevicePane::Choose(const Folder& folder) {
+    for (int row = 0; row < m_list.count(); ++row)
+        if (FolderOf(*m_list.item(row)) == folder)
+            m_list.setCurrentRow(row);
+}
+
+void CDevicePane::Mark(const Folder& connected) {
+    m_connected = connected;
+    for (int row = 0; row < m_list.count(); ++row) {
+        QFont font = m_list.font();
+        font.setBold(!connected.empty() && FolderOf(*m_list.item(row)) == connected);
+        m_list.item(row)->setFont(font);
+    }
+    UpdateButtons();
+}
+
+void CDevicePane::ConnectCurrent() {
+    if (m_list.currentItem() && m_connect)
+        m_connect(FolderOf(*m_list.currentItem()));
+}
+
+void CDevicePane::UpdateButtons() {
+    m_connectButton.setEnabled(m_list.currentItem());
+    m_disconnectButton.setEnabled(!m_connected.empty());
+}
+
+}

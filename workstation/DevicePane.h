@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+class QListWidget;
+class QPushButton;
+
+namespace workstation {
+
+/// The devices at the left of the window, with the buttons that connect and disconnect them.
+///
+/// Mnemonics are chosen beside the panel's own (U, D, R, S, E, K, C, H), with which they share a
+/// window.
+class CDevicePane : public QWidget {
+public:
+    using Folder = std::filesystem::path;
+
+    explicit CDevicePane(QWidget* parent);
+
+    /// Called with the folder that the user wants connected.
+    void OnConnect(std::function<void(const Folder&)> connect);
+    void OnDisconnect(std::function<void()> disconnect);
+
+    /// Shows these folders by their names; the choice stays where it can.
+    void ShowDevices(const std::vector<Folder>& folders);
+    /// Makes a folder the current one.
+    void Choose(const Folder& folder);
+    /// Marks the folder of the device that is connected; an empty one marks none.
+    void Mark(const Folder& connected);
+
+private:
+    void ConnectCurrent();
+    void UpdateButtons();
+
+    QListWidget& m_list;
+    QPushButton& m_connectButton;
+    QPushButton& m_disconnectButton;
+    std::function<void(const Folder&)> m_connect;
+    Folder m_connected;
+};
+
+}

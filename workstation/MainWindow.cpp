@@ -1,0 +1,145 @@
+#include "workstation/MainWindow.h"
+
+#include "simulator/DeviceFolder.h"
+#include "workstation/DevicePane.h"
+#include "workstation/PanelArea.h"
+#include "workstation/StatusLine.h"
+#include "workstation/Text.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QMessageBox>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <utility>
+
+namespace workstation {
+
+namespace {
+
+constexpr char kTitle[] = "KRX-8 Maintenance Workstation";
+constexpr std::string_view kSwitchPolling = "ProductDetectionControl.SetPollingEnabled";
+
+}
+
+CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesystem::path root)
+    : m_root(std::move(root)),
+      m_area(*new CPanelArea(this)),
+      m_devices(*new CDevicePane(this)),
+      m_status(*new CStatusLine(this)),
+      m_session(
+          std::make_unique<CSession>(std::move(panel), static_cast<ISessionObserver&>(*this))) {
+    setWindowTitle(kTitle);
+    BuildLayout();
+    m_session->CreateView(m_area.Holder());
+    const contract::PixelSize natural = m_session->GetNaturalSize();
+    m_area.Fit({natural.width, natural.height}, [this](QSize size) {
+        m_session->Resize({size.width(), size.height()});
+    });
+    m_devices.OnConnect([this](const auto& folder) { Connect(folder); });
+    m_devices.OnDisconnect([this] { Disconnect(); });
+    connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this,
+            [this] { ListDevices(); });
+    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this,
+            [this] { close(); });
+    m_status.ShowPolling(m_session->IsPolling());
+    ConnectionChanged();
+    ListDevices();
+    resize(sizeHint().boundedTo(screen()->availableSize()));
+}
+
+CMainWindow::~CMainWindow() { m_session.reset(); }
+
+void CMainWindow::Start(const std::optional<OpenedDevice>& device) {
+    if (!device) {
+        m_session->Start({}, nullptr);
+        return;
+    }
+    m_given = device->folder;
+    ListDevices();
+    m_devices.Choose(device->folder);
+    m_session->Start(device->folder.string(), device->device);
+}
+
+QWidget& CMainWindow::PanelHolder() { return m_area.Holder(); }
+
+void CMainWindow::closeEvent(QCloseEvent* event) {
+    if (m_mayClose || m_session->IsIdle()) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    CloseWhenIdle();
+}
+
+void CMainWindow::CallLasts(const interception::Operation& operation) {
+    m_hasLastingCall = true;
+    m_status.ShowOperation(operation.name);
+}
+
+void CMainWindow::CallReturned(const interception::Operation& operation) {
+    if (operation.name == kSwitchPolling)
+        m_status.ShowPolling(m_session->IsPolling());
+    if (std::exchange(m_hasLastingCall, false))
+        m_status.EndOperation();
+}
+
+void CMainWindow::ConnectionChanged() {
+    const std::filesystem::path folder = m_session->DeviceName();
+    const QString name = folder.empty() ? QString() : NameOf(folder);
+    m_status.ShowDevice(name, m_session->IsConnected());
+    m_devices.Mark(folder);
+    setWindowTitle(name.isEmpty() ? QString(kTitle) : QString(kTitle) + " - " + name);
+}
+
+void CMainWindow::ProgressReported(const std::string& text, std::uint32_t done,
+                                   std::uint32_t total) {
+    m_status.ShowProgress(text, done, total);
+}
+
+void CMainWindow::CloseRequested() { CloseWhenIdle(); }
+
+void CMainWindow::BuildLayout() {
+    auto* const centre = new QWidget;
+    auto* const row = new QHBoxLayout(centre);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(&m_devices);
+    row->addWidget(&m_area, 1);
+    setCentralWidget(centre);
+    setStatusBar(&m_status);
+}
+
+void CMainWindow::Connect(const std::filesystem::path& folder) {
+    const auto opened = simulator::OpenDevice(folder);
+    if (const auto* error = std::get_if<simulator::DescriptionError>(&opened)) {
+        QMessageBox box(QMessageBox::Warning, "Connect", {}, QMessageBox::Ok, this);
+        box.setTextFormat(Qt::PlainText);
+        box.setText(QString::fromStdString(error->Message()));
+        box.exec();
+        return;
+    }
+    m_session->Connect(folder.string(), std::get<0>(opened));
+}
+
+void CMainWindow::Disconnect() { m_session->Disconnect(); }
+
+void CMainWindow::ListDevices() {
+    auto folders = simulator::ListDevices(m_root);
+    if (!m_given.empty() && std::ranges::find(folders, m_given) == folders.end())
+        folders.insert(folders.begin(), m_given);
+    m_devices.ShowDevices(folders);
+}
+
+void CMainWindow::CloseWhenIdle() {
+    if (std::exchange(m_mustClose, true))
+        return;
+    m_session->RunWhenIdle([this] {
+        m_mayClose = true;
+        close();
+    });
+}
+
+}

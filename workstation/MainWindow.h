@@ -1,0 +1,78 @@
+#pragma once
+
+#include "contract/panel/Panel.h"
+#include "workstation/Session.h"
+
+#include <QMainWindow>
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace simulator {
+class CDevice;
+}
+
+namespace workstation {
+
+class CDevicePane;
+class CPanelArea;
+class CStatusLine;
+
+/// A device that has been opened.
+struct OpenedDevice {
+    std::filesystem::path folder;
+    std::shared_ptr<simulator::CDevice> device;
+};
+
+/// The workstation's window: devices at the left, the panel, a status bar.
+///
+/// A close that comes while a command of the panel is running is remembered and carried out when it
+/// has ended.
+class CMainWindow : public QMainWindow, private ISessionObserver {
+public:
+    /// `root`: the folder that the devices are listed from; empty for none.
+    CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesystem::path root);
+    ~CMainWindow() override;
+
+    /// Starts the panel as soon as events are handled, with a device connected if one is given.
+    void Start(const std::optional<OpenedDevice>& device);
+
+    /// Whether nothing waits to be done and no command of the panel is running. To be asked from
+    /// the event loop.
+    bool IsIdle() { return m_session->IsIdle(); }
+
+    /// The widget that holds the panel's view.
+    QWidget& PanelHolder();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void CallLasts(const interception::Operation& operation) override;
+    void CallReturned(const interception::Operation& operation) override;
+    void ConnectionChanged() override;
+    void ProgressReported(const std::string& text, std::uint32_t done,
+                          std::uint32_t total) override;
+    void CloseRequested() override;
+
+    void BuildLayout();
+    void Connect(const std::filesystem::path& folder);
+    void Disconnect();
+    void ListDevices();
+    void CloseWhenIdle();
+
+    const std::filesystem::path m_root;
+    CPanelArea& m_area;
+    CDevicePane& m_devices;
+    CStatusLine& m_status;
+    std::filesystem::path m_given; ///< the device of the start, listed wherever it lies
+    bool m_hasLastingCall = false;
+    bool m_mustClose = false;
+    bool m_mayClose = false;
+    // Ended by the destructor, before the widgets that the panel's view stands in.
+    std::unique_ptr<CSession> m_session;
+};
+
+}

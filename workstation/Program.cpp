@@ -1,0 +1,155 @@
+#include "workstation/Program.h"
+
+#include "simulator/DeviceFolder.h"
+#include "workstation/CommandLine.h"
+#include "workstation/Display.h"
+#include "workstation/MainWindow.h"
+#include "workstation/PanelFactory.h"
+#include "workstation/PanelPicture.h"
+#include "workstation/PromptAnswerer.h"
+
+#include <QApplication>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <variant>
+
+namespace workstation {
+
+namespace {
+
+using Path = std::filesystem::path;
+
+constexpr int kDone = 0;
+constexpr int kRefused = 2;
+
+/// Ends the program with one line on stderr.
+struct Refusal {
+    std::string reason;
+};
+
+Options ReadCommandLine(int argc, char** argv) {
+    const auto parsed = ParseCommandLine({argv + 1, argv + argc});
+    if (const auto* error = std::get_if<CommandLineError>(&parsed))
+        throw Refusal{error->reason + "; --help lists the options"};
+    return std::get<Options>(parsed);
+}
+
+// So that a folder given in one way is found again in a listing.
+Path Normal(const Path& path) {
+    const Path normal = std::filesystem::absolute(path).lexically_normal();
+    return normal.has_filename() ? normal : normal.parent_path();
+}
+
+std::optional<OpenedDevice> OpenGivenDevice(const Path& folder) {
+    if (folder.empty())
+        return {};
+    const auto opened = simulator::OpenDevice(folder);
+    if (const auto* error = std::get_if<simulator::DescriptionError>(&opened))
+        throw Refusal{error->Message()};
+    return OpenedDevice{Normal(folder), std::get<0>(opened)};
+}
+
+Path RootOf(const Options& options) {
+    if (options.devices.empty())
+        return options.device.empty() ? Path() : Normal(options.device).parent_path();
+    std::error_code error;
+    const std::filesystem::directory_iterator entries(options.devices, error);
+    if (error)
+        throw Refusal{options.devices.string() + ": cannot be read: " + error.message()};
+    return Normal(options.devices);
+}
+
+void Print(const std::string& text) {
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0)
+        throw Refusal{"cannot write to the standard output: " +
+                      std::generic_category().message(errno)};
+}
+
+void WritePicture(QWidget& window, const Path& file) {
+    QSaveFile picture(QString::fromStdString(file.string()));
+    if (!picture.open(QIODevice::WriteOnly) || !window.grab().save(&picture, "PNG") ||
+        !picture.commit())
+        throw Refusal{file.string() +
+                      ": cannot be written: " + picture.errorString().toStdString()};
+}
+
+void WaitUntilIdle(CMainWindow& window) {
+    while (!window.IsIdle())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+int RunWithoutUser(CMainWindow& window, const Options& options) {
+    std::string boxes;
+    const CPromptAnswerer answerer(window, [&](const std::string& box) { boxes += box; });
+    window.show();
+    WaitUntilIdle(window);
+    Print(boxes);
+    if (options.text)
+        Print(headless::FormatTextPicture(ReadPanelPicture(window.PanelHolder())));
+    if (!options.snapshot.empty()) {
+        WritePicture(window, options.snapshot);
+        Print("The window is drawn in " + options.snapshot.string() + "\n");
+    }
+    return kDone;
+}
+
+// A start that has nobody to show a window to becomes a text and a picture.
+void FallBack(Options& options) {
+    Print("There is no display: the panel follows as text.\n");
+    options.text = true;
+    options.snapshot = options.fallback;
+}
+
+// The panel's columns have widths in pixels, which the usual 9 points overrun; in points all the
+// same, so that a display of higher resolution is served.
+void UseFontOfThePanel() {
+    constexpr qreal kPoints = 8.25;
+    QFont font = QApplication::font();
+    font.setPointSizeF(kPoints);
+    QApplication::setFont(font);
+}
+
+int Run(int argc, char** argv) {
+    Options options = ReadCommandLine(argc, argv);
+    if (options.help) {
+        Print(std::string("Usage: krx8-workstation [OPTION]...\n\n") + HelpText());
+        return kDone;
+    }
+    const auto device = OpenGivenDevice(options.device);
+    const Path root = RootOf(options);
+    const bool isAsked = options.text || !options.snapshot.empty();
+    if (!isAsked && !HasDisplay())
+        FallBack(options);
+    const bool hasUser = !options.text && options.snapshot.empty();
+    SilenceToolkit();
+    std::optional<COffscreen> offscreen;
+    if (!hasUser)
+        offscreen.emplace();
+    QApplication application(argc, argv);
+    UseFontOfThePanel();
+    CMainWindow window(CreatePanel(), root);
+    window.Start(device);
+    if (!hasUser)
+        return RunWithoutUser(window, options);
+    window.show();
+    return QApplication::exec();
+}
+
+}
+
+int RunProgram(int argc, char** argv) {
+    try {
+        return Run(argc, argv);
+    } catch (const Refusal& refusal) {
+        std::fprintf(stderr, "krx8-workstation: %s\n", refusal.reason.c_str());
+        return kRefused;
+    }
+}
+
+}

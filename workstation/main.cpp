@@ -1,0 +1,3 @@
+#include "workstation/Program.h"
+
+int main(int argc, char** argv) { return workstation::RunProgram(argc, argv); }
