@@ -1,0 +1,421 @@
+#include "tests/panel/files/ListingFixture.h"
+
+#include <algorithm>
+
+namespace {
+
+using namespace panel;
+using namespace support;
+using simulator::StoredFile;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+Shown Report(const std::string& text, contract::Status status,
+             const std::string& description = "") {
+    return ErrorReport(text, "Prommer Maintenance", status, description);
+}
+
+class ListingRunTest : public ListingFixture {
+protected:
+    /// The cell of a file that is the only one on its device.
+    std::string OnlyCell(const StoredFile& file, int column) {
+        InsertFiles({file});
+        List();
+        EXPECT_EQ(RowCount(), 1);
+        return View().GetCell(kFileList, 0, column);
+    }
+    std::string ShownName(const std::string& name) { return OnlyCell(File(name, 21, 1), 0); }
+    std::string ShownVersion(const std::string& version) {
+        return OnlyCell(File("a.fia", 21, 1, version), 3);
+    }
+};
+
+// Cells and keys
+
+TEST_F(ListingRunTest, LargeIdIsShownWholeAndKeyedByItsLowBits) {
+    InsertFiles({File("a.fia", 22, 70000)});
+    List();
+    EXPECT_EQ(Row(0)[2], "70000");
+    EXPECT_EQ(Key(0), 0x16020000u + 4464u);
+}
+
+TEST_F(ListingRunTest, NegativeIdShowsItsSign) {
+    InsertFiles({File("a.fia", 22, -2)});
+    List();
+    EXPECT_EQ(Row(0)[2], "-2");
+    EXPECT_EQ(Key(0), 0x1602FFFEu);
+}
+
+TEST_F(ListingRunTest, UnknownValuesAreShownAndKeyedByEightBits) {
+    StoredFile file = File("odd.fia", 0x1234, 5);
+    file.location = 7;
+    file.generation = 2;
+    StoredFile odder = File("odder.fia", -1, 6);
+    odder.location = 0x302;
+    odder.generation = 4294967295u;
+    InsertFiles({file, odder});
+    List();
+    EXPECT_THAT(Row(0), ElementsAre("odd.fia", "unknown", "5", "1.0", "1005", "7", "2"));
+    EXPECT_THAT(Row(1),
+                ElementsAre("odder.fia", "unknown", "6", "1.0", "1006", "770", "4294967295"));
+    EXPECT_EQ(Key(0), 0x34070005u);
+    EXPECT_EQ(Key(1), 0xFF020006u);
+}
+
+TEST_F(ListingRunTest, GenerationZeroLeavesItsCellEmpty) {
+    EXPECT_EQ(OnlyCell(File("a.fia", 21, 1), 6), "");
+}
+
+TEST_F(ListingRunTest, EmptyVersionLeavesItsCellEmpty) {
+    InsertFiles({File("a.fia", 21, 1, "9.9"), File("b.fia", 21, 2, "")});
+    List();
+    EXPECT_EQ(Row(1)[3], "");
+}
+
+const std::string kTwoByteLetter = "\xC3\xA9";
+const std::string kThreeByteSign = "\xE2\x82\xAC";
+const std::string kFourByteSign = "\xF0\x9F\x94\xA7";
+const std::string kReplacement = "\xEF\xBF\xBD";
+
+TEST_F(ListingRunTest, TextsAreCutTo256Bytes) {
+    EXPECT_EQ(ShownName(std::string(256, 'n')), std::string(256, 'n'));
+    EXPECT_EQ(ShownName(std::string(257, 'n')), std::string(256, 'n'));
+    EXPECT_EQ(ShownName(std::string(5000, 'n')), std::string(256, 'n'));
+    EXPECT_EQ(ShownVersion(std::string(256, '1')), std::string(256, '1'));
+    EXPECT_EQ(ShownVersion(std::string(257, '1')), std::string(256, '1'));
+}
+
+TEST_F(ListingRunTest, TextsAreCutBetweenCharacters) {
+    const std::string fits = std::string(254, 'n') + kTwoByteLetter;
+    EXPECT_EQ(ShownName(fits), fits);
+    EXPECT_EQ(ShownName(fits + "x"), fits);
+    EXPECT_EQ(ShownName(std::string(255, 'n') + kTwoByteLetter), std::string(255, 'n'));
+    EXPECT_EQ(ShownName(std::string(254, 'n') + kThreeByteSign), std::string(254, 'n'));
+    EXPECT_EQ(ShownVersion(std::string(253, '1') + kFourByteSign), std::string(253, '1'));
+}
+
+TEST_F(ListingRunTest, InvalidBytesAreShownAsReplacements) {
+    EXPECT_EQ(ShownName("bad\xFF name"), "bad" + kReplacement + " name");
+    EXPECT_EQ(ShownVersion("\x80"), kReplacement);
+    EXPECT_EQ(ShownName(std::string(255, 'n') + "\xFF\xFF"), std::string(255, 'n') + kReplacement);
+}
+
+TEST_F(ListingRunTest, OverlongNameIsComparedAsShown) {
+    InsertFiles({File("a.fia", 21, 1), File(std::string(300, 'n'), 21, 2)});
+    ListAndSelect(std::string(256, 'n'));
+    EXPECT_THAT(Selection(), ElementsAre(1));
+}
+
+// Nameless files
+
+TEST_F(ListingRunTest, NamelessFilesTakeNoRow) {
+    InsertFiles({File("", 19, 1), File("b.fia", 21, 2), File("", 22, 3), File("", 22, 4),
+                 File("e.fia", 22, 5)});
+    ListAndSelect("e.fia");
+    ASSERT_EQ(RowCount(), 2);
+    EXPECT_THAT(Row(0), ElementsAre("b.fia", "Algo", "2", "1.0", "1002", "Flash", ""));
+    EXPECT_THAT(Row(1), ElementsAre("e.fia", "MCUSW", "5", "1.0", "1005", "Flash", ""));
+    EXPECT_EQ(Key(0), 0x15020002u);
+    EXPECT_EQ(Key(1), 0x16020005u);
+    EXPECT_THAT(Selection(), ElementsAre(1));
+    EXPECT_EQ(Mark(), 1);
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(ListingRunTest, NamelessFileIsAskedForNothingElse) {
+    InsertFiles({File("", 19, 1)});
+    List();
+    EXPECT_THAT(TakeCalls(),
+                ElementsAre("ProgrammingDeviceControl.GetFileListing", "FileListing.GetFileCount",
+                            "FileListing.GetFileInfo", "FileInfo.GetName"));
+}
+
+TEST_F(ListingRunTest, OnlyNamelessFilesLeaveNothingToSelect) {
+    InsertFiles({File("", 19, 1), File("", 21, 2)});
+    List();
+    EXPECT_EQ(RowCount(), 0);
+    EXPECT_THAT(Selection(), IsEmpty());
+    EXPECT_EQ(Mark(), -1);
+    EXPECT_THAT(Log(), ElementsAre("Updating file listing...", "File listing updated"));
+}
+
+// The package version
+
+struct PackageCase {
+    const char* name;
+    const char* version;
+    const char* installed;
+};
+
+void PrintTo(const PackageCase& value, std::ostream* out) {
+    *out << value.name << " " << value.version;
+}
+
+class PackageVersionTest : public ListingRunTest,
+                           public testing::WithParamInterface<PackageCase> {};
+
+TEST_P(PackageVersionTest, VersionFileTellsThePackageVersion) {
+    State().installedPackageVersion = "009";
+    InsertFiles({File("a.fia", 21, 1, "7.7"), File(GetParam().name, 22, 3, GetParam().version),
+                 File("z.fia", 21, 2, "8.8")});
+    List();
+    EXPECT_EQ(State().installedPackageVersion, GetParam().installed);
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, PackageVersionTest,
+                         testing::Values(PackageCase{"version.fia", "2.5.13", "002.005.013"},
+                                         PackageCase{"VERSION.FIA", "1.10", "001.010"},
+                                         PackageCase{"Version.Fia", "1.10", "001.010"},
+                                         PackageCase{"VERSION.FIA", "", ""},
+                                         PackageCase{"version.fia", "abc", "000"},
+                                         PackageCase{"version.fia", "1234.5", "1234.005"},
+                                         PackageCase{"version.fia", "1.2a.3", "001.002"},
+                                         PackageCase{"version.fi", "1.10", "009"},
+                                         PackageCase{"version.fiaa", "1.10", "009"},
+                                         PackageCase{"xversion.fia", "1.10", "009"},
+                                         PackageCase{"version_fia", "1.10", "009"}));
+
+TEST_F(ListingRunTest, LongPackageVersionIsCutTo79Bytes) {
+    std::string version = "1";
+    std::string expected = "001";
+    for (int i = 1; i < 30; ++i) {
+        version += ".1";
+        expected += ".001";
+    }
+    InsertFiles({File("version.fia", 22, 1, version)});
+    List();
+    EXPECT_EQ(State().installedPackageVersion, expected.substr(0, 79));
+}
+
+TEST_F(ListingRunTest, LastOfTwoVersionFilesWins) {
+    InsertFiles({File("version.fia", 22, 1, "1.0"), File("VERSION.FIA", 22, 2, "2.0")});
+    List();
+    EXPECT_EQ(State().installedPackageVersion, "002.000");
+}
+
+TEST_F(ListingRunTest, LastVersionFileWinsEvenWithoutVersion) {
+    InsertFiles({File("version.fia", 22, 1, "1.0"), File("VERSION.FIA", 22, 2, "")});
+    List();
+    EXPECT_EQ(State().installedPackageVersion, "");
+}
+
+TEST_F(ListingRunTest, PackageVersionIsKeptWhenALaterCallFails) {
+    InsertFiles({File("version.fia", 22, 1, "1.0")});
+    faults->Fail({1, "FileInfo.GetSize"});
+    List();
+    EXPECT_EQ(State().installedPackageVersion, "001.000");
+    EXPECT_EQ(TakeMessages().size(), 1u);
+}
+
+TEST_F(ListingRunTest, FailingVersionLeavesThePackageVersion) {
+    State().installedPackageVersion = "009";
+    InsertFiles({File("version.fia", 22, 1, "1.0")});
+    faults->Fail({1, "FileInfo.GetVersion"});
+    List();
+    EXPECT_EQ(State().installedPackageVersion, "009");
+    EXPECT_EQ(TakeMessages().size(), 1u);
+}
+
+// Failures
+
+struct FailureCase {
+    const char* operation;
+    std::size_t call;
+    const char* text;
+    int rows;
+    /// Cells of the third row that were written.
+    std::size_t cells;
+};
+
+void PrintTo(const FailureCase& value, std::ostream* out) { *out << value.text; }
+
+constexpr FailureCase kFailures[] = {
+    {"ProgrammingDeviceControl.GetFileListing", 1, "File listing query failed", 0, 0},
+    {"FileListing.GetFileInfo", 3, "Cannot get info about a file", 2, 0},
+    {"FileListing.GetFileCount", 1, "Cannot get the count of files", 0, 0},
+    {"FileInfo.GetName", 3, "Cannot get name of the file", 2, 0},
+    {"FileInfo.GetType", 3, "Cannot get type of the file", 3, 1},
+    {"FileInfo.GetId", 3, "Cannot get ID of the file", 3, 2},
+    {"FileInfo.GetVersion", 3, "Cannot get version of the file", 3, 3},
+    {"FileInfo.GetSize", 3, "Cannot get size of the file", 3, 4},
+    {"FileInfo.GetLocation", 3, "Cannot get file location", 3, 5},
+    {"FileInfo.GetGeneration", 3, "Cannot get generation of the file", 3, 6}};
+
+class ListingFailureTest : public ListingRunTest, public testing::WithParamInterface<FailureCase> {
+protected:
+    /// Two whole rows, and of the third the cells that were read.
+    void ExpectRowsUpToTheFailure() {
+        const std::vector<std::string> whole[] = {
+            {"a.fia", "Algo", "1", "1.0", "1001", "Flash", "QX2"},
+            {"b.fia", "Algo", "2", "1.0", "1002", "Flash", "QX2"},
+            {"c.fia", "Algo", "3", "1.0", "1003", "Flash", "QX2"}};
+        ASSERT_EQ(RowCount(), GetParam().rows);
+        for (int row = 0; row < RowCount(); ++row) {
+            std::vector<std::string> expected = whole[row];
+            if (row == 2) {
+                std::fill(expected.begin() + static_cast<int>(GetParam().cells), expected.end(),
+                          "");
+            }
+            EXPECT_EQ(Row(row), expected);
+            EXPECT_EQ(Key(row), row == 2 ? 0u : 0x15020001u + static_cast<unsigned>(row));
+        }
+    }
+
+    void InsertThreeFiles() {
+        std::vector<StoredFile> files = {File("a.fia", 21, 1), File("b.fia", 21, 2),
+                                         File("c.fia", 21, 3), File("d.fia", 21, 4)};
+        for (StoredFile& file : files) {
+            file.generation = 4;
+        }
+        InsertFiles(std::move(files));
+    }
+};
+
+TEST_P(ListingFailureTest, FailingCallEndsTheListing) {
+    InsertThreeFiles();
+    const auto wrappers = interception.LiveWrappers();
+    const auto status = contract::Status::FromBits(0x8007001E);
+    faults->Fail({GetParam().call, GetParam().operation}, {status, "file system busy"});
+    ListAndSelect("a.fia");
+    EXPECT_THAT(TakeMessages(), ElementsAre(Report(GetParam().text, status, "file system busy")));
+    ExpectRowsUpToTheFailure();
+    EXPECT_THAT(Selection(), IsEmpty());
+    EXPECT_EQ(Mark(), -1);
+    EXPECT_THAT(Log(), ElementsAre("Updating file listing..."));
+    EXPECT_EQ(interception.LiveWrappers(), wrappers);
+    const auto calls = TakeCalls();
+    ASSERT_GE(calls.size(), 3u);
+    EXPECT_EQ(calls[calls.size() - 3], GetParam().operation) << "besides the two calls of the box";
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, ListingFailureTest, testing::ValuesIn(kFailures));
+
+class NullInListingTest : public ListingFailureTest {};
+
+TEST_P(NullInListingTest, NullObjectCountsAsAFailedCall) {
+    InsertThreeFiles();
+    faults->DeliverNull({GetParam().call, GetParam().operation});
+    List();
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(Report(GetParam().text, contract::Status::FromBits(0x80004003))));
+    ExpectRowsUpToTheFailure();
+    EXPECT_THAT(Selection(), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Objects, NullInListingTest, testing::Values(kFailures[0], kFailures[1]));
+
+TEST_F(ListingRunTest, ReportCarriesNoOlderDescription) {
+    InsertFiles({File("a.fia", 21, 1)});
+    faults->RunAfter({1, "FileInfo.GetType"}, [] { contract::SetErrorInfo("left by a success"); });
+    faults->Fail({1, "FileInfo.GetId"});
+    List();
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(Report("Cannot get ID of the file", contract::kUnspecifiedFailure)));
+}
+
+// A refill beneath a running listing
+
+class RefillTest : public ListingRunTest {
+protected:
+    /// Another listing inside a call of this one: of two other files, of which the user then
+    /// selects the second.
+    void Refill() {
+        simulator::DeviceDescription device = HealthyDevice(simulator::kKrx20);
+        device.files = {File("inner1.fia", 22, 11, "3.3"), File("inner2.fia", 22, 12, "3.3")};
+        host.InsertDevice(simulator::CDevice::Create(device));
+        List();
+        View().SelectRow(kFileList, 0, false);
+        View().SelectRow(kFileList, 1, true);
+        View().SetSelectionMark(kFileList, 1);
+        rooms->output.AppendStatusLine("after the refill");
+        recorder->Clear();
+    }
+
+    /// Rows, selection and log are as the refill and the user left them.
+    void ExpectOnlyTheRefill() {
+        ASSERT_EQ(RowCount(), 2);
+        EXPECT_THAT(Row(0), ElementsAre("inner1.fia", "MCUSW", "11", "3.3", "1011", "Flash", ""));
+        EXPECT_THAT(Row(1), ElementsAre("inner2.fia", "MCUSW", "12", "3.3", "1012", "Flash", ""));
+        EXPECT_EQ(Key(0), 0x1602000Bu);
+        EXPECT_EQ(Key(1), 0x1602000Cu);
+        EXPECT_THAT(Selection(), ElementsAre(1));
+        EXPECT_EQ(Mark(), 1);
+        EXPECT_EQ(State().installedPackageVersion, "");
+        EXPECT_THAT(Log(), ElementsAre("Updating file listing...", "File listing updated",
+                                       "after the refill"));
+    }
+};
+
+class RefillInsideTest : public RefillTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(RefillInsideTest, OuterListingStopsWithoutTouchingAnything) {
+    InsertFiles({File("outer.fia", 21, 1), File("version.fia", 21, 2, "6.6")});
+    faults->RunBefore({1, GetParam()}, [this] { Refill(); });
+    ListAndSelect("outer.fia");
+    ExpectOnlyTheRefill();
+    EXPECT_THAT(TakeCalls(), IsEmpty()) << "after the refill";
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, RefillInsideTest,
+                         testing::Values("ProgrammingDeviceControl.GetFileListing",
+                                         "FileListing.GetFileCount", "FileListing.GetFileInfo",
+                                         "FileInfo.GetName", "FileInfo.GetType", "FileInfo.GetId",
+                                         "FileInfo.GetVersion", "FileInfo.GetSize",
+                                         "FileInfo.GetLocation", "FileInfo.GetGeneration"));
+
+TEST_F(RefillTest, RefillInTheLastCallIsNotSelectedFrom) {
+    InsertFiles({File("outer.fia", 21, 1)});
+    faults->RunBefore({1, "FileInfo.GetGeneration"}, [this] { Refill(); });
+    List();
+    ExpectOnlyTheRefill();
+}
+
+TEST_F(RefillTest, RefillAroundTheVersionLeavesThePackageVersion) {
+    InsertFiles({File("version.fia", 21, 2, "6.6")});
+    faults->RunBefore({1, "FileInfo.GetVersion"}, [this] { Refill(); });
+    List();
+    ExpectOnlyTheRefill();
+}
+
+TEST_F(RefillTest, FailureAfterARefillIsReportedAndTouchesNothing) {
+    InsertFiles({File("outer.fia", 21, 1)});
+    faults->RunBefore({1, "FileInfo.GetSize"}, [this] { Refill(); });
+    faults->Fail({1, "FileInfo.GetSize"});
+    List();
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(Report("Cannot get size of the file", contract::kUnspecifiedFailure)));
+    ExpectOnlyTheRefill();
+}
+
+TEST_F(RefillTest, RefillWhileAFailureIsShownStays) {
+    InsertFiles({File("outer.fia", 21, 1)});
+    messageService->whileOpen = [this] { Refill(); };
+    faults->Fail({1, "FileInfo.GetSize"});
+    List();
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    ExpectOnlyTheRefill();
+}
+
+TEST_F(RefillTest, EmptyingInsideAListingStopsItToo) {
+    InsertFiles({File("a.fia", 21, 1), File("b.fia", 21, 2)});
+    faults->RunBefore({2, "FileInfo.GetSize"}, [this] {
+        State().deviceMode = DeviceMode::Service;
+        List();
+    });
+    List();
+    EXPECT_EQ(RowCount(), 0);
+    EXPECT_THAT(Selection(), IsEmpty());
+    EXPECT_THAT(Log(), ElementsAre("Updating file listing..."));
+}
+
+TEST_F(RefillTest, ModeChangeAloneLetsTheListingRunOn) {
+    InsertFiles({File("a.fia", 21, 1), File("b.fia", 21, 2)});
+    faults->RunBefore({1, "FileInfo.GetSize"},
+                      [this] { State().deviceMode = DeviceMode::Service; });
+    List();
+    EXPECT_THAT(Names(), ElementsAre("a.fia", "b.fia"));
+    EXPECT_THAT(Log(), ElementsAre("Updating file listing...", "File listing updated"));
+}
+
+}
