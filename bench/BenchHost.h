@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace bench {
 
@@ -28,6 +29,8 @@ public:
     void Refresh();
     /// One progress message from the device.
     void RaiseMessage(std::uint32_t done, std::uint32_t total);
+    /// One message without a percentage.
+    void RaiseNotice(const std::string& text);
     contract::IPanel& Panel() { return *m_panel; }
     simulator::CHost& Host() { return m_host; }
 
