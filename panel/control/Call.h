@@ -19,10 +19,12 @@ contract::Status Call(const std::shared_ptr<Object>& object,
                       contract::Status (Interface::*operation)(Parameters...),
                       Arguments&&... arguments) {
     contract::ClearErrorInfo();
-    if (!object) {
+    // Held for the length of the call: an event raised inside may replace the caller's reference.
+    const std::shared_ptr<Object> held = object;
+    if (!held) {
         return contract::kInvalidPointer;
     }
-    return (object.get()->*operation)(std::forward<Arguments>(arguments)...);
+    return (held.get()->*operation)(std::forward<Arguments>(arguments)...);
 }
 
 namespace detail {

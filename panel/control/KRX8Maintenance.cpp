@@ -57,11 +57,16 @@ Status CKRX8Maintenance::CreateView(void* nativeParent) {
         return contract::kUnspecifiedFailure;
     }
     const auto self = Self();
-    m_ownedView = m_toolkit->CreateView(kPanelTemplate, nativeParent, *this);
-    m_hadView = m_ownedView != nullptr;
+    auto view = m_toolkit->CreateView(kPanelTemplate, nativeParent, *this);
+    m_hadView = view != nullptr;
     if (!m_hadView) {
         return nativeParent ? contract::kUnspecifiedFailure : contract::kInvalidPointer;
     }
+    if (!m_view.Exists()) {
+        // The host has called DestroyView while the view was being made.
+        return contract::kUnspecifiedFailure;
+    }
+    m_ownedView = std::move(view);
     return contract::kSuccess;
 }
 

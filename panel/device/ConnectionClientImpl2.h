@@ -20,9 +20,11 @@ template <class Derived>
 class IConnectionClientImpl2 : public virtual contract::IConnectionClient {
 public:
     contract::Status SetConnection(const std::shared_ptr<contract::IConnection>& connection) final {
+        const auto self = static_cast<Derived*>(this)->Self();
         if (connection != Connection()) {
             Detach();
-            if (connection) {
+            // The host may have set another one from inside that.
+            if (connection && !Connection()) {
                 Attach(connection);
             }
         }
@@ -52,26 +54,45 @@ protected:
         if (!connection) {
             return;
         }
-        static_cast<Derived*>(this)->OnBeforeDetach();
-        m_events->Disconnect(connection);
-        const std::lock_guard lock(m_connectionLock);
-        m_connection.reset();
-        m_connectionState.reset();
+        if (const auto events = std::exchange(m_events, nullptr)) {
+            static_cast<Derived*>(this)->OnBeforeDetach();
+            events->Disconnect(connection);
+        }
+        if (!m_events) {
+            const std::lock_guard lock(m_connectionLock);
+            m_connection.reset();
+            m_connectionState.reset();
+        }
     }
 
 private:
+    /// The host may set another connection, or none, from inside each of these calls. The events
+    /// tell: while they are the panel's, so is the connection.
     void Attach(const std::shared_ptr<contract::IConnection>& connection) {
-        {
-            const std::lock_guard lock(m_connectionLock);
-            m_connection = connection;
-            std::shared_ptr<contract::IConnectionState> state;
-            static_cast<void>(
-                Query(connection, &contract::IConnection::QueryConnectionState, state));
+        const auto events =
+            std::make_shared<CKVL32ExtConnectionEvents>(static_cast<Derived*>(this)->Self());
+        m_events = events;
+        TakeHold(connection);
+        if (m_events != events) {
+            return;
+        }
+        events->Connect(connection);
+        if (m_events == events) {
+            static_cast<Derived*>(this)->OnAfterAttach();
+        } else if (events->Cookie() != contract::kNotSubscribed) {
+            events->Disconnect(connection);
+        }
+    }
+
+    void TakeHold(const std::shared_ptr<contract::IConnection>& connection) {
+        const auto events = m_events;
+        const std::lock_guard lock(m_connectionLock);
+        m_connection = connection;
+        std::shared_ptr<contract::IConnectionState> state;
+        static_cast<void>(Query(connection, &contract::IConnection::QueryConnectionState, state));
+        if (m_events == events) {
             m_connectionState = state;
         }
-        m_events = std::make_shared<CKVL32ExtConnectionEvents>(static_cast<Derived*>(this)->Self());
-        m_events->Connect(connection);
-        static_cast<Derived*>(this)->OnAfterAttach();
     }
 
     mutable std::recursive_mutex m_connectionLock;

@@ -32,11 +32,7 @@ Status CDeviceConnection::ConnectToProgrammingDeviceSubsystem(
             return status;
         }
     }
-    m_events = std::move(events);
-    const Status status =
-        Call(m_subsystem, &contract::IProgrammingDeviceSubsystem::get_ProgrammingDeviceControl,
-             m_control);
-    return status.IsFailure() ? status : m_events->Connect(m_control);
+    return m_control ? contract::kSuccess : ObtainControl(std::move(events));
 }
 
 Status CDeviceConnection::ObtainSubsystem() {
@@ -47,6 +43,20 @@ Status CDeviceConnection::ObtainSubsystem() {
         return status;
     }
     return Query(subsystem, &contract::ISubsystem::QueryProgrammingDeviceSubsystem, m_subsystem);
+}
+
+Status CDeviceConnection::ObtainControl(std::shared_ptr<CProgrammingDeviceControlEvents> events) {
+    std::shared_ptr<contract::IProgrammingDeviceControl> control;
+    const Status status = Call(
+        m_subsystem, &contract::IProgrammingDeviceSubsystem::get_ProgrammingDeviceControl, control);
+    // A host that hands over its access anew from inside a call has had the panel connected: a
+    // second subscription would have every event twice.
+    if (status.IsFailure() || m_control) {
+        return status;
+    }
+    m_control = control;
+    m_events = std::move(events);
+    return m_events->Connect(m_control);
 }
 
 }

@@ -41,6 +41,7 @@ public:
 
 private:
     contract::Status ObtainSubsystem();
+    contract::Status ObtainControl(std::shared_ptr<CProgrammingDeviceControlEvents> events);
 
     std::shared_ptr<contract::ISubsystemAccess> m_access;
     std::shared_ptr<contract::IProgrammingDeviceSubsystem> m_subsystem;
