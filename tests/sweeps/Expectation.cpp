@@ -52,7 +52,8 @@ Observation CExpectation::Take() {
 }
 
 bool CExpectation::CanShowADevice() const {
-    return m_picture && m_isWhole && held.hearsDevice && !m_isGone;
+    const bool isKnown = m_device.type >= 1 && m_device.type <= 5;
+    return isKnown && m_picture && m_isWhole && held.hearsDevice && !m_isGone;
 }
 
 // The host

@@ -36,8 +36,8 @@ public:
     std::size_t Boxes() const { return m_boxes; }
     /// How many of the calls picked by the plan are reached.
     std::size_t CallsSpoilt() const { return m_callsSpoilt; }
-    /// Whether a further device is shown in full: the view was initialised and still exists, and
-    /// the panel hears its device.
+    /// Whether the device is shown in full from the next refresh on: it is a known one, the view
+    /// was initialised and still exists, and the panel hears the device.
     bool CanShowADevice() const;
 
     // IStage

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,13 @@ namespace sweeps {
 struct Setting {
     const Scenario* scenario;
     std::int32_t model;
+
+    std::string Name() const {
+        return std::string(scenario->name) + "OnModel" + std::to_string(model);
+    }
+    friend std::ostream& operator<<(std::ostream& out, const Setting& setting) {
+        return out << setting.Name();
+    }
 };
 
 inline std::vector<Setting> Settings() {
@@ -26,7 +34,7 @@ inline std::vector<Setting> Settings() {
 }
 
 inline std::string SettingName(const testing::TestParamInfo<Setting>& info) {
-    return std::string(info.param.scenario->name) + "OnModel" + std::to_string(info.param.model);
+    return info.param.Name();
 }
 
 class SweepTest : public testing::TestWithParam<Setting> {
