@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel/control/Toolkit.h"
+#include "panel/control/View.h"
 
 #include <QPointer>
 
