@@ -49,4 +49,11 @@ void RoomFixture::Insert(const simulator::DeviceDescription& description) {
     ForgetWhatWasSeen();
 }
 
+void RoomFixture::ConnectTo(const std::shared_ptr<contract::ISubsystemAccess>& access) {
+    // One that offers no events fails to subscribe, and its control is held all the same.
+    static_cast<void>(rooms->device.ConnectToProgrammingDeviceSubsystem(
+        access, std::make_shared<panel::CProgrammingDeviceControlEvents>(rooms)));
+    ASSERT_TRUE(rooms->device.Control());
+}
+
 }

@@ -66,6 +66,9 @@ protected:
     /// Inserts the device and, the first time, obtains the device control.
     void Insert(const simulator::DeviceDescription& description);
 
+    /// Connects the rooms to another device than the host's; before any Insert.
+    void ConnectTo(const std::shared_ptr<contract::ISubsystemAccess>& access);
+
     panel::PanelState& State() { return rooms->state; }
 
     std::shared_ptr<CRooms> rooms;

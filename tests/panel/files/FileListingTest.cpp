@@ -1,4 +1,5 @@
 #include "tests/panel/files/ListingFixture.h"
+#include "tests/support/DeviceDouble.h"
 
 namespace {
 
@@ -91,6 +92,18 @@ TEST_F(FileListingTest, DeviceWithoutFilesListsNothing) {
     List();
     EXPECT_EQ(RowCount(), 0);
     EXPECT_THAT(Selection(), IsEmpty());
+    EXPECT_EQ(Mark(), -1);
+    EXPECT_THAT(Log(), ElementsAre("Updating file listing...", "File listing updated"));
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(FileListingTest, NegativeCountListsNothing) {
+    const auto device = std::make_shared<CDeviceDouble>();
+    device->fileCount = -1;
+    ConnectTo(device);
+    List();
+    EXPECT_EQ(device->filesAskedFor, 0);
+    EXPECT_EQ(RowCount(), 0);
     EXPECT_EQ(Mark(), -1);
     EXPECT_THAT(Log(), ElementsAre("Updating file listing...", "File listing updated"));
     EXPECT_THAT(TakeMessages(), IsEmpty());

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "tests/support/RoomFixture.h"
+
+#include <functional>
 #include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
-/// The calls of a refresh, in order and in pieces, as a call recorder names them.
 namespace support {
+
+// The calls of a refresh, in order and in pieces, as a call recorder names them.
 
 using Calls = std::vector<std::string>;
 
@@ -61,5 +66,37 @@ inline const Calls kListingCalls =
     Join({{"ProgrammingDeviceControl.GetFileListing", "FileListing.GetFileCount"},
           Repeat(3, kOneFileCalls)});
 inline const Calls kBoxCalls = {"Context.QueryMessageService", "MessageService.ShowMessage"};
+
+inline const Shown kNotNormalWarning = WarningBox(
+    "The Programming Device is not in Normal mode and therefore some information about the "
+    "Programming Device can be incorrect.\n\nThis can be a result of invalid or broken software of "
+    "the Programming Device. Please, update the Programming Device",
+    "Prommer Maintenance");
+
+inline simulator::DeviceDescription DeviceInMode(std::int32_t type, std::int32_t mode) {
+    simulator::DeviceDescription device = HealthyDevice(type);
+    device.mode = mode;
+    return device;
+}
+
+/// Refreshes as a connected device brings them about.
+class RefreshFixture : public PanelFixture {
+protected:
+    void SetUp() override { StartPanel(); }
+
+    /// Runs inside the `call`-th call of the operation, before it is made.
+    void Inside(const std::string& operation, std::function<void()> action, std::size_t call = 1) {
+        faults->RunBefore({call, operation}, std::move(action));
+    }
+
+    /// Fields 211 to 219 and 244.
+    std::vector<std::string> Fields() {
+        std::vector<std::string> fields;
+        for (const panel::ControlId id : {211, 212, 213, 214, 215, 216, 217, 218, 219, 244}) {
+            fields.push_back(Field(id));
+        }
+        return fields;
+    }
+};
 
 }
