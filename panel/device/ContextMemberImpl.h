@@ -16,16 +16,17 @@ class IContextMemberImpl : public virtual contract::IContextMember {
 public:
     contract::Status
     SetContextAndRegister(const std::shared_ptr<contract::IContext>& context) final {
+        const auto self = static_cast<Derived*>(this)->Self();
         const contract::Status status = SetContext(context);
         return status.IsFailure() ? status
-                                  : Call(m_context, &contract::IContext::Register,
-                                         static_cast<Derived*>(this)->Self(), m_cookie);
+                                  : Call(m_context, &contract::IContext::Register, self, m_cookie);
     }
 
     contract::Status SetContext(const std::shared_ptr<contract::IContext>& context) final {
         if (!context) {
             return contract::kInvalidPointer;
         }
+        const auto self = static_cast<Derived*>(this)->Self();
         LeaveContext();
         m_context = context;
         return contract::kSuccess;
