@@ -39,4 +39,13 @@ std::span<const Event> DeviceAndConnectionEvents() { return kEvents; }
 
 std::span<const Event> HostInterventions() { return kInterventions; }
 
+std::vector<const Event*> EventsAndInterventions() {
+    std::vector<const Event*> all;
+    for (const auto events : {DeviceAndConnectionEvents(), HostInterventions()}) {
+        for (const Event& event : events)
+            all.push_back(&event);
+    }
+    return all;
+}
+
 }

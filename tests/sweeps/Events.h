@@ -3,6 +3,7 @@
 #include "tests/sweeps/Plan.h"
 
 #include <span>
+#include <vector>
 
 namespace sweeps {
 
@@ -11,5 +12,8 @@ std::span<const Event> DeviceAndConnectionEvents();
 
 /// What a host may do of itself while the panel is at work.
 std::span<const Event> HostInterventions();
+
+/// All of them.
+std::vector<const Event*> EventsAndInterventions();
 
 }

@@ -14,6 +14,18 @@ namespace sweeps {
 
 using contract::Status;
 
+namespace {
+
+bool DeliversObject(std::string_view operation) {
+    return interception::FindOperation(operation)->delivers == interception::Delivers::Object;
+}
+
+bool IsAnsweredByDevice(std::string_view operation) {
+    return interception::FindOperation(operation)->provider == interception::Provider::Device;
+}
+
+}
+
 /// One call of host, connection, device or view into the panel, which lives until the outermost of
 /// them has returned.
 class CExpectation::CEntry {
@@ -214,25 +226,22 @@ bool CExpectation::Call(std::string_view operation, const Effect& effect) {
 }
 
 bool CExpectation::Spoils(std::size_t call, std::string_view operation) {
-    const interception::Operation& facts = *interception::FindOperation(operation);
     const auto spoilt = std::find_if(m_plan.spoilt.begin(), m_plan.spoilt.end(),
                                      [call](const SpoiltCall& each) { return each.call == call; });
-    if (spoilt != m_plan.spoilt.end() && spoilt->how == Spoiling::Failure) {
-        ++m_callsSpoilt;
+    const bool isPicked = spoilt != m_plan.spoilt.end();
+    if (isPicked && spoilt->how == Spoiling::Failure) {
         m_failure = {kFaultStatus, kFaultDescription};
-        return true;
-    }
-    if (spoilt != m_plan.spoilt.end() && facts.delivers == interception::Delivers::Object) {
-        ++m_callsSpoilt;
+    } else if (isPicked && DeliversObject(operation)) {
         const bool isQuery = operation.find(".Query") != std::string_view::npos;
         m_failure = {Status::FromBits(isQuery ? 0x80004002 : 0x80004003), ""};
-        return true;
-    }
-    if (m_isLost && facts.provider == interception::Provider::Device) {
+    } else if (m_isLost && IsAnsweredByDevice(operation)) {
         m_failure = {kLostStatus, kLostDescription};
         return true;
+    } else {
+        return false;
     }
-    return false;
+    ++m_callsSpoilt;
+    return true;
 }
 
 bool CExpectation::CallInTurn(std::initializer_list<std::string_view> operations) {

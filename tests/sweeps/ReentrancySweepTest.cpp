@@ -7,62 +7,68 @@ namespace {
 
 using namespace sweeps;
 
+constexpr std::int32_t kNormalMode = 1;
+constexpr std::int32_t kServiceMode = 2;
+
 class ReentrancySweepTest : public SweepTest {
 protected:
-    void FireInEachCall(CSweep& sweep, const Event& event) {
-        for (std::size_t call = 1; call <= sweep.Calls().size(); ++call) {
-            for (const Moment moment : {Moment::BeforeCall, Moment::AfterCall})
-                sweep.Run({.intrusion = Intrusion{moment, call, &event}});
+    /// In Normal mode, which takes the longest way through every sequence.
+    void FireInEachCall(std::span<const Event> events) {
+        CSweep sweep = SweepInMode(kNormalMode);
+        for (const Event& event : events) {
+            for (std::size_t call = 1; call <= sweep.Calls().size(); ++call) {
+                sweep.Run({.intrusion = Intrusion{Moment::BeforeCall, call, &event}});
+                sweep.Run({.intrusion = Intrusion{Moment::AfterCall, call, &event}});
+            }
         }
     }
 
-    void FireInEachPrompt(CSweep& sweep, const Event& event, const Plan& plan) {
-        Plan disturbed = plan;
-        for (std::size_t box = 1; box <= sweep.BoxesWith(plan); ++box) {
-            disturbed.intrusion = {Moment::WhileBoxOpen, box, &event};
-            sweep.Run(disturbed);
+    static void FireInEachBox(CSweep& sweep, const Event& event, Plan plan) {
+        const std::size_t boxes = sweep.BoxesWith(plan);
+        for (std::size_t box = 1; box <= boxes; ++box) {
+            plan.intrusion = Intrusion{Moment::WhileBoxOpen, box, &event};
+            sweep.Run(plan);
         }
     }
-
-    /// A healthy device in Normal mode takes the longest way through every sequence.
-    CSweep SweepInNormalMode() const { return CSweep(*GetParam().scenario, GetParam().model, 1); }
 };
 
 TEST_P(ReentrancySweepTest, EventInsideEachCallIsHandledAtOnce) {
-    CSweep sweep = SweepInNormalMode();
-    for (const Event& event : DeviceAndConnectionEvents())
-        FireInEachCall(sweep, event);
+    FireInEachCall(DeviceAndConnectionEvents());
 }
 
 TEST_P(ReentrancySweepTest, InterventionInsideEachCallIsCarriedOutAtOnce) {
-    CSweep sweep = SweepInNormalMode();
-    for (const Event& event : HostInterventions())
-        FireInEachCall(sweep, event);
+    FireInEachCall(HostInterventions());
 }
 
-/// The warning of a device that is not in Normal mode, the reports of failing calls, and both again
-/// as plain boxes.
-TEST_P(ReentrancySweepTest, AnythingInsideEachBoxIsHandledAtOnce) {
-    CSweep sweep(*GetParam().scenario, GetParam().model, 2);
-    for (const auto events : {DeviceAndConnectionEvents(), HostInterventions()}) {
-        for (const Event& event : events) {
-            FireInEachPrompt(sweep, event, {.failMessageService = true});
-            for (std::size_t call = 1; call <= sweep.Calls().size(); ++call)
-                FireInEachPrompt(sweep, event, {.spoilt = {{call, Spoiling::Failure}}});
-        }
+/// Outside Normal mode, so that a warning is among the boxes.
+TEST_P(ReentrancySweepTest, AnythingInsideTheWarningIsHandledAtOnce) {
+    CSweep sweep = SweepInMode(kServiceMode);
+    for (const Event* event : EventsAndInterventions()) {
+        FireInEachBox(sweep, *event, {});
+        FireInEachBox(sweep, *event, {.failMessageService = true});
+    }
+}
+
+/// One event for each report, in turn: all reports are made in one place.
+TEST_P(ReentrancySweepTest, AnythingInsideAReportIsHandledAtOnce) {
+    CSweep sweep = SweepInMode(kNormalMode);
+    const auto events = EventsAndInterventions();
+    std::size_t turn = 0;
+    for (std::size_t call = 1; call <= sweep.Calls().size(); ++call) {
+        const Event& event = *events[++turn % events.size()];
+        FireInEachBox(sweep, event, {.spoilt = {{call, Spoiling::Failure}}});
     }
 }
 
 TEST_P(ReentrancySweepTest, AnythingInsideAnOpenDialogIsHandledAtOnce) {
-    CSweep sweep = SweepInNormalMode();
-    for (const auto events : {DeviceAndConnectionEvents(), HostInterventions()}) {
-        for (const Event& event : events) {
-            for (std::size_t dialog = 1; dialog <= sweep.Dialogs(); ++dialog)
-                sweep.Run({.intrusion = Intrusion{Moment::WhileDialogOpen, dialog, &event}});
-        }
+    CSweep sweep = SweepInMode(kNormalMode);
+    for (const Event* event : EventsAndInterventions()) {
+        for (std::size_t dialog = 1; dialog <= sweep.Dialogs(); ++dialog)
+            sweep.Run({.intrusion = Intrusion{Moment::WhileDialogOpen, dialog, event}});
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, ReentrancySweepTest, testing::ValuesIn(Settings()), SettingName);
+INSTANTIATE_TEST_SUITE_P(, ReentrancySweepTest, testing::ValuesIn(SettingsWithoutRepetition()),
+                         SettingName);
 
 }

@@ -56,7 +56,7 @@ const std::vector<std::int32_t> kAllModes{1, 2, 3};
 const Scenario kScenarios[] = {
     {"Connect", [](IStage& stage) { stage.InsertDevice(); }, Connect, ConnectAgain, kAllModels,
      kAllModes},
-    {"Arrival", PrepareArrival, Arrive, ArriveAgain, kAllModels, kAllModes},
+    {"Arrival", PrepareArrival, Arrive, ArriveAgain, kAllModels, kAllModes, false, true},
     {"Refresh", RunWithDevice, Arrive, ArriveAgain, kAllModels, kAllModes},
     {"Details", RunWithDevice, PressDetails, ArriveAgain, kKnownModels, kAllModes, true},
 };

@@ -27,8 +27,11 @@ struct Scenario {
     std::vector<std::int32_t> modes;
     /// Gives the device one failed self-test.
     bool needsFailedTest = false;
+    /// Left out of the sweeps of events, as a scenario that another one contains.
+    bool isContainedInAnother = false;
 };
 
+/// Connect comes first.
 std::span<const Scenario> Scenarios();
 
 /// The device that a scenario is played with: four files, one without a name, one

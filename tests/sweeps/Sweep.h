@@ -42,6 +42,11 @@ private:
         explicit Pair(const simulator::DeviceDescription& device)
             : expected(device), actual(device) {}
 
+        void ForgetWhatWasSeen() {
+            static_cast<void>(expected.Take());
+            static_cast<void>(actual.Take());
+        }
+
         CExpectation expected;
         CSweepPanel actual;
     };

@@ -33,17 +33,29 @@ inline std::vector<Setting> Settings() {
     return settings;
 }
 
+/// Without the scenarios that another one contains.
+inline std::vector<Setting> SettingsWithoutRepetition() {
+    std::vector<Setting> settings = Settings();
+    std::erase_if(settings,
+                  [](const Setting& setting) { return setting.scenario->isContainedInAnother; });
+    return settings;
+}
+
 inline std::string SettingName(const testing::TestParamInfo<Setting>& info) {
     return info.param.Name();
 }
 
 class SweepTest : public testing::TestWithParam<Setting> {
 protected:
+    CSweep SweepInMode(std::int32_t mode) const {
+        return CSweep(*GetParam().scenario, GetParam().model, mode);
+    }
+
     /// Plays `sweep` with the scenario in each of its modes.
     template <class Body>
     void InEachMode(const Body& body) {
         for (const std::int32_t mode : GetParam().scenario->modes) {
-            CSweep sweep(*GetParam().scenario, GetParam().model, mode);
+            CSweep sweep = SweepInMode(mode);
             ASSERT_FALSE(HasFailure());
             body(sweep);
         }
