@@ -1,14 +1,9 @@
 #include "frontend/qt/ListView.h"
 
 #include "frontend/qt/Font.h"
-#include "frontend/qt/KeyCodes.h"
 #include "frontend/qt/Text.h"
 
-#include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QMouseEvent>
-#include <QScrollBar>
 #include <QStyle>
 #include <QTimerEvent>
 
@@ -156,87 +151,6 @@ void CListView::EnsureRowVisible(int row) {
     if (HasRow(row)) {
         BringUpToDate();
         scrollTo(m_model.index(row, 0));
-    }
-}
-
-// A list is made of rows: where a table goes from cell to cell, it goes to the ends or scrolls.
-QModelIndex CListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-    const int column = std::max(0, currentIndex().column());
-    switch (action) {
-    case MoveHome:
-        return m_model.index(0, column);
-    case MoveEnd:
-        return m_model.index(m_model.rowCount() - 1, column);
-    case MoveLeft:
-        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
-        return currentIndex();
-    case MoveRight:
-        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
-        return currentIndex();
-    default:
-        return QTableView::moveCursor(action, modifiers);
-    }
-}
-
-// The toolkit extends a selection from the row that the user touched last; ours starts at the mark,
-// which programs move as well.
-void CListView::setSelection(const QRect& rectangle, QItemSelectionModel::SelectionFlags command) {
-    const bool isRange = command.testFlag(QItemSelectionModel::Current);
-    if (!isRange || state() == DragSelectingState || !currentIndex().isValid()) {
-        QTableView::setSelection(rectangle, command);
-        return;
-    }
-    if (!m_mark.isValid()) {
-        m_mark = m_model.index(currentIndex().row(), 0);
-    }
-    const auto change =
-        m_extendsSelection ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect;
-    selectionModel()->select(RowsBetween(m_mark.row(), currentIndex().row()), change | kWholeRows);
-}
-
-void CListView::keyPressEvent(QKeyEvent* event) {
-    const std::uint16_t virtualKey = ToVirtualKey(event->key(), event->modifiers());
-    if (m_keyListener && virtualKey != kNoVirtualKey) {
-        m_keyListener(virtualKey);
-    }
-    ApplySelection();
-    BringUpToDate();
-    const int rowBefore = GetFocusedRow();
-    if (!m_mark.isValid()) {
-        SetSelectionMark(rowBefore);
-    }
-    m_extendsSelection = event->modifiers().testFlag(Qt::ControlModifier);
-    QTableView::keyPressEvent(event);
-    MoveMarkAfterKey(*event, rowBefore);
-}
-
-void CListView::MoveMarkAfterKey(const QKeyEvent& event, int rowBefore) {
-    const bool isToggle = event.key() == Qt::Key_Space;
-    const bool isPlain = !(event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
-    if (isToggle || (isPlain && GetFocusedRow() != rowBefore)) {
-        SetSelectionMark(GetFocusedRow());
-    }
-}
-
-void CListView::mousePressEvent(QMouseEvent* event) {
-    ApplySelection();
-    BringUpToDate();
-    const QModelIndex pressed = indexAt(event->position().toPoint());
-    const bool wasSelected = selectionModel()->isSelected(pressed);
-    m_extendsSelection = event->modifiers().testFlag(Qt::ControlModifier);
-    QTableView::mousePressEvent(event);
-    const bool keepsMark = event->modifiers().testFlag(Qt::ShiftModifier) ||
-                           (event->button() != Qt::LeftButton && wasSelected);
-    if (!keepsMark && pressed.isValid()) {
-        SetSelectionMark(pressed.row());
-    }
-}
-
-// The menu key arrives here too, with the keyboard as its reason; it is told as a key.
-void CListView::contextMenuEvent(QContextMenuEvent* event) {
-    event->accept();
-    if (event->reason() == QContextMenuEvent::Mouse && m_rightClickListener) {
-        m_rightClickListener(event->globalPos());
     }
 }
 

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+class QHelpEvent;
+
 namespace qt {
 
 /// A list in report view. Its verbs are those of panel::IView, with the same rules for rows and
@@ -53,12 +55,14 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void updateGeometries() override;
+    bool viewportEvent(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
 private:
     bool HasRow(int row) const { return row >= 0 && row < GetRowCount(); }
     bool HasCell(int row, int column) const;
     void SetUpLook();
+    void ShowWholeCell(const QHelpEvent& event) const;
     void ScheduleUpdate();
     void StartTimer();
     void BringUpToDate();

@@ -1,8 +1,10 @@
 #include "frontend/qt/ListView.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 namespace qttests {
@@ -37,6 +39,13 @@ protected:
 
     void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(&m_list, key, modifiers);
+    }
+
+    QString ToolTipOf(int row, int column) {
+        const QPoint place = m_list.visualRect(m_list.model()->index(row, column)).center();
+        QHelpEvent event(QEvent::ToolTip, place, m_list.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(m_list.viewport(), &event);
+        return QToolTip::text();
     }
 
     qt::CListView m_list{qt::CListView::Selection::Multiple, nullptr};
@@ -149,6 +158,14 @@ TEST_F(ListViewTest, VerticalScrollBarBringsNoHorizontalOne) {
     EXPECT_FALSE(m_list.horizontalScrollBar()->isVisible());
     m_list.resize(400, 280);
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_list.horizontalScrollBar()->isVisible(); }));
+}
+
+TEST_F(ListViewTest, ToolTipShowsTheWholeOfACutTextOnly) {
+    Fill(2);
+    m_list.SetCell(1, 0, "a<b>name</b>that-is-too-long-for-its-column");
+    EXPECT_EQ(ToolTipOf(0, 0), QString());
+    EXPECT_TRUE(
+        ToolTipOf(1, 0).contains("a&lt;b&gt;name&lt;/b&gt;that-is-too-long-for-its-column"));
 }
 
 TEST_F(ListViewTest, HeadingsFitTheirColumns) {
