@@ -229,8 +229,9 @@ bool CExpectation::Spoils(std::size_t call, std::string_view operation) {
     const auto spoilt = std::find_if(m_plan.spoilt.begin(), m_plan.spoilt.end(),
                                      [call](const SpoiltCall& each) { return each.call == call; });
     const bool isPicked = spoilt != m_plan.spoilt.end();
-    if (isPicked && spoilt->how == Spoiling::Failure) {
-        m_failure = {kFaultStatus, kFaultDescription};
+    if (isPicked && spoilt->how != Spoiling::Null) {
+        const bool isDescribed = spoilt->how == Spoiling::Failure;
+        m_failure = {kFaultStatus, isDescribed ? kFaultDescription : ""};
     } else if (isPicked && DeliversObject(operation)) {
         const bool isQuery = operation.find(".Query") != std::string_view::npos;
         m_failure = {Status::FromBits(isQuery ? 0x80004002 : 0x80004003), ""};
@@ -289,7 +290,11 @@ void CExpectation::ShowPlainBox(const support::Shown& message) {
     OpenBox();
 }
 
-void CExpectation::OpenBox() { Intrude(Moment::WhileBoxOpen, ++m_boxes); }
+void CExpectation::OpenBox() {
+    if (m_picture)
+        m_seen.behindBoxes.push_back(*m_picture);
+    Intrude(Moment::WhileBoxOpen, ++m_boxes);
+}
 
 void CExpectation::OpenDialog(DialogRows rows) {
     m_seen.dialogs.push_back(std::move(rows));

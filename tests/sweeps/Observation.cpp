@@ -73,6 +73,12 @@ CLines Describe(const Observation& seen) {
     AddEach(lines, "box", seen.boxes, [](std::ostream& out, const headless::ShownBox& box) {
         out << '"' << box.text << "\", \"" << box.caption << "\", style " << box.style;
     });
+    AddEach(lines, "behind box", seen.behindBoxes, [](std::ostream& out, const Picture& picture) {
+        CLines behind;
+        behind.Add(picture);
+        for (const std::string& line : behind.All())
+            out << line << ", ";
+    });
     AddEach(lines, "dialog", seen.dialogs, [](std::ostream& out, const DialogRows& rows) {
         for (const auto& [label, status] : rows) {
             out << label << " = " << status << ", ";

@@ -73,6 +73,8 @@ struct Observation {
     /// Boxes of the message service, and plain ones.
     std::vector<support::Shown> messages;
     std::vector<headless::ShownBox> boxes;
+    /// The panel behind each of them, of either kind, in the order in which they opened.
+    std::vector<Picture> behindBoxes;
     std::vector<DialogRows> dialogs;
     std::vector<std::string> log;
     /// At the end of the stretch; none when there is no view or no panel any more.

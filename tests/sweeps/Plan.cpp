@@ -23,9 +23,8 @@ const char* Name(Moment moment) {
 std::string Describe(const Plan& plan) {
     std::string text;
     for (const SpoiltCall& spoilt : plan.spoilt) {
-        const bool isFailure = spoilt.how == Spoiling::Failure;
-        text +=
-            "call " + std::to_string(spoilt.call) + (isFailure ? " fails; " : " delivers null; ");
+        const char* const how[] = {" fails; ", " fails silently; ", " delivers null; "};
+        text += "call " + std::to_string(spoilt.call) + how[static_cast<int>(spoilt.how)];
     }
     if (plan.lossInCall) {
         text += "device lost in call " + std::to_string(*plan.lossInCall) + "; ";

@@ -30,7 +30,8 @@ struct Event {
     bool changesMode = false;
 };
 
-enum class Spoiling { Failure, Null };
+/// The call fails, with a description or without one, or succeeds with a null object.
+enum class Spoiling { Failure, FailureWithoutDescription, Null };
 
 /// Calls count from 1, from the arranging of the plan on.
 struct SpoiltCall {

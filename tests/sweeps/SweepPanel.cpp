@@ -60,10 +60,11 @@ void CSweepPanel::Arrange(const Plan& plan, const std::vector<CExpectation::Prom
 }
 
 void CSweepPanel::Spoil(const SpoiltCall& spoilt) {
-    if (spoilt.how == Spoiling::Failure)
-        faults->Fail({spoilt.call}, {kFaultStatus, kFaultDescription});
-    else
+    const bool isDescribed = spoilt.how == Spoiling::Failure;
+    if (spoilt.how == Spoiling::Null)
         faults->DeliverNull({spoilt.call});
+    else
+        faults->Fail({spoilt.call}, {kFaultStatus, isDescribed ? kFaultDescription : ""});
 }
 
 void CSweepPanel::Arrange(const Intrusion& intrusion) {
@@ -74,7 +75,11 @@ void CSweepPanel::Arrange(const Intrusion& intrusion) {
         faults->RunAfter({intrusion.number}, intrude);
 }
 
-void CSweepPanel::OnBoxOpen() { Intrude(Moment::WhileBoxOpen, ++m_boxesOpened); }
+void CSweepPanel::OnBoxOpen() {
+    if (desktop->windows.PanelView())
+        m_behindBoxes.push_back(LookAtView());
+    Intrude(Moment::WhileBoxOpen, ++m_boxesOpened);
+}
 
 void CSweepPanel::OnDialogOpen(headless::CHeadlessView& dialog) {
     DialogRows& rows = m_dialogs.emplace_back();
@@ -100,6 +105,7 @@ Observation CSweepPanel::Take() {
     const auto& boxes = desktop->prompts.Boxes();
     seen.boxes.assign(boxes.begin() + static_cast<std::ptrdiff_t>(m_boxesTaken), boxes.end());
     m_boxesTaken = boxes.size();
+    seen.behindBoxes = std::exchange(m_behindBoxes, {});
     seen.dialogs = std::exchange(m_dialogs, {});
     if (desktop->windows.PanelView()) {
         seen.log = Log();

@@ -65,6 +65,7 @@ private:
     std::size_t m_dialogsOpened = 0;
     std::size_t m_boxesTaken = 0;
     std::vector<contract::Status> m_statuses;
+    std::vector<Picture> m_behindBoxes;
     std::vector<DialogRows> m_dialogs;
 };
 
