@@ -248,6 +248,18 @@ TEST_F(ConnectionClientImpl2Test, ConnectionSetWhileTheOldOneIsDetachedStays) {
     EXPECT_NE(panel->ConnectionCookie(), kNone);
 }
 
+TEST_F(ConnectionClientImpl2Test, ConnectionSetWhileTheOldOneIsDetachedKeepsOutTheNext) {
+    CHost lastHost({.areApplied = false});
+    EXPECT_EQ(SetConnection(connection), contract::kSuccess);
+    faults->RunBefore({1, "ExtConnectionEvents.Unsubscribe"},
+                      [this] { EXPECT_EQ(SetConnection(other), contract::kSuccess); });
+    EXPECT_EQ(SetConnection(lastHost.Connection()), contract::kSuccess);
+    EXPECT_EQ(lastHost.ConnectionSubscriberCount(), 0u);
+    EXPECT_EQ(otherHost.ConnectionSubscriberCount(), 1u);
+    EXPECT_EQ(SetConnection(nullptr), contract::kSuccess);
+    EXPECT_EQ(otherHost.ConnectionSubscriberCount(), 0u);
+}
+
 // The hooks, which the panel itself leaves empty
 
 class CClientWithHooks final : public IConnectionClientImpl2<CClientWithHooks>,

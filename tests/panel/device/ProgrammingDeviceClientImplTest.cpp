@@ -166,6 +166,13 @@ INSTANTIATE_TEST_SUITE_P(Steps, ReenteredStepTest,
                                          "ProgrammingDeviceControlEvents.FindEventSource",
                                          "ProgrammingDeviceControlEvents.Subscribe"));
 
+TEST_F(ProgrammingDeviceClientImplTest, ControlObtainedMeanwhileIsNotObtainedAgain) {
+    faults->RunBefore({1, "SubsystemAccess.GetSubsystem"},
+                      [this] { EXPECT_EQ(SetAccess(), contract::kSuccess); });
+    EXPECT_EQ(SetAccess(), contract::kSuccess);
+    EXPECT_EQ(faults->Calls("ProgrammingDeviceSubsystem.get_ProgrammingDeviceControl"), 1u);
+}
+
 TEST_F(ProgrammingDeviceClientImplTest, ReportWithoutViewOrContextIsAPlainBox) {
     const auto fresh =
         panel::CKRX8Maintenance::Create(std::make_unique<headless::CHeadlessToolkit>(desktop));
