@@ -49,7 +49,7 @@ install_missing() { # PACKAGE...
     # $prefix stays unquoted: empty for root, it must not become an argument.
     step "reading the package lists" $prefix apt-get update -qq
     step "installing ${missing[*]}" $prefix env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}"
+        apt-get install -y -qq -o Dpkg::Use-Pty=0 --no-install-recommends "${missing[@]}"
 }
 
 # configure PRESET FOLDER [ARGUMENT]...: once a folder; the build itself notices later changes.

@@ -1,19 +1,15 @@
 #include "workstation/Display.h"
 
-#include <QByteArray>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QString>
-#include <QtGlobal>
 
-#include <sys/mman.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <string_view>
@@ -21,10 +17,6 @@
 namespace workstation {
 
 namespace {
-
-// The screen of the offscreen platform, which is 800 x 800 unless it is told otherwise.
-constexpr std::string_view kScreens =
-    R"({"screens":[{"name":"offscreen","x":0,"y":0,"width":3840,"height":2160,"dpr":1}]})";
 
 std::string Environment(const char* name) {
     const char* const value = std::getenv(name);
@@ -63,17 +55,6 @@ bool HasWayland() {
            !plugins.entryList({"libqwayland*"}).isEmpty();
 }
 
-void ForwardMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    for (const char* idle :
-         {"This plugin does not support", "Detected locale", "QStandardPaths: XDG_RUNTIME_DIR",
-          "QStandardPaths: runtime directory"})
-        if (message.startsWith(idle))
-            return;
-    std::fprintf(stderr, "krx8-workstation: %s\n", qPrintable(message));
-    if (type == QtFatalMsg)
-        std::abort();
-}
-
 }
 
 bool HasDisplay() {
@@ -82,21 +63,5 @@ bool HasDisplay() {
         return !platform.starts_with("offscreen") && !platform.starts_with("minimal");
     return HasX11() || HasWayland();
 }
-
-// The platform wants its screens in a file; one in memory leaves no trace.
-COffscreen::COffscreen() : m_screenFile(memfd_create("krx8-screens", MFD_CLOEXEC)) {
-    QByteArray platform("offscreen");
-    const auto size = static_cast<ssize_t>(kScreens.size());
-    if (m_screenFile >= 0 && write(m_screenFile, kScreens.data(), kScreens.size()) == size)
-        platform += ":configfile=/proc/self/fd/" + QByteArray::number(m_screenFile);
-    qputenv("QT_QPA_PLATFORM", platform);
-}
-
-COffscreen::~COffscreen() {
-    if (m_screenFile >= 0)
-        close(m_screenFile);
-}
-
-void SilenceToolkit() { qInstallMessageHandler(ForwardMessage); }
 
 }

@@ -4,9 +4,11 @@
 #include "workstation/CommandLine.h"
 #include "workstation/Display.h"
 #include "workstation/MainWindow.h"
+#include "workstation/Offscreen.h"
 #include "workstation/PanelFactory.h"
 #include "workstation/PanelPicture.h"
 #include "workstation/PromptAnswerer.h"
+#include "workstation/ToolkitMessages.h"
 
 #include <QApplication>
 #include <QSaveFile>
@@ -115,30 +117,39 @@ void UseFontOfThePanel() {
     QApplication::setFont(font);
 }
 
+bool HasUser(const Options& options) { return !options.text && options.snapshot.empty(); }
+
+struct Start {
+    std::optional<OpenedDevice> device;
+    Path root;
+};
+
+int RunWindow(int argc, char** argv, const Options& options, const Start& start) {
+    QApplication application(argc, argv);
+    UseFontOfThePanel();
+    CMainWindow window(CreatePanel(), start.root);
+    window.Start(start.device);
+    if (!HasUser(options))
+        return RunWithoutUser(window, options);
+    window.show();
+    return QApplication::exec();
+}
+
 int Run(int argc, char** argv) {
     Options options = ReadCommandLine(argc, argv);
     if (options.help) {
         Print(std::string("Usage: krx8-workstation [OPTION]...\n\n") + HelpText());
         return kDone;
     }
-    const auto device = OpenGivenDevice(options.device);
-    const Path root = RootOf(options);
-    const bool isAsked = options.text || !options.snapshot.empty();
-    if (!isAsked && !HasDisplay())
+    // Before anything is said or drawn, so that a refusal is all there is.
+    const Start start{OpenGivenDevice(options.device), RootOf(options)};
+    FilterToolkitMessages();
+    if (HasUser(options) && !HasDisplay())
         FallBack(options);
-    const bool hasUser = !options.text && options.snapshot.empty();
-    SilenceToolkit();
     std::optional<COffscreen> offscreen;
-    if (!hasUser)
+    if (!HasUser(options))
         offscreen.emplace();
-    QApplication application(argc, argv);
-    UseFontOfThePanel();
-    CMainWindow window(CreatePanel(), root);
-    window.Start(device);
-    if (!hasUser)
-        return RunWithoutUser(window, options);
-    window.show();
-    return QApplication::exec();
+    return RunWindow(argc, argv, options, start);
 }
 
 }

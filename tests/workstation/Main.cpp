@@ -1,4 +1,5 @@
-#include "workstation/Display.h"
+#include "workstation/Offscreen.h"
+#include "workstation/ToolkitMessages.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +7,7 @@
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    workstation::SilenceToolkit();
+    workstation::FilterToolkitMessages();
     const workstation::COffscreen offscreen;
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -138,7 +138,7 @@ TEST_F(MainWindowTest, DamagedDeviceIsRefusedWithABox) {
 
 TEST_F(MainWindowTest, CloseDuringARefreshWaitsForItsEnd) {
     simulator::DeviceDescription slow = HealthyDevice();
-    slow.latency.operationsMs["ProgrammingDeviceControl.GetFileListing"] = 100;
+    slow.latency.operationsMs["ProgrammingDeviceControl.GetFileListing"] = 500;
     Start(simulator::CDevice::Create(slow));
     bool wasRefused = false;
     QTimer trial;

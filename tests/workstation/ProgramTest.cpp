@@ -114,6 +114,11 @@ TEST_F(ProgramTest, UnreadableDeviceIsRefused) {
                 StartsWith("krx8-workstation: " + PathText("device.json") + ": cannot be read: "));
 }
 
+TEST_F(ProgramTest, RefusalIsAllThereIsAlsoWithoutADisplay) {
+    ExpectRefusal({"--device", Path("none"), "--fallback", Path("panel.png")},
+                  PathText("none") + ": there is no such folder");
+}
+
 TEST_F(ProgramTest, MissingRootIsRefused) {
     ExpectRefusal({"--devices", Path("none")},
                   PathText("none") + ": cannot be read: No such file or directory");
