@@ -1,18 +1,12 @@
 #include "workstation/Display.h"
 
 #include <QDir>
+#include <QLibrary>
 #include <QLibraryInfo>
 #include <QString>
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
-#include <algorithm>
-#include <cstddef>
 #include <cstdlib>
 #include <string>
-#include <string_view>
 
 namespace workstation {
 
@@ -23,30 +17,22 @@ std::string Environment(const char* name) {
     return value ? value : "";
 }
 
-bool AnswersAt(std::string_view path, bool isAbstract) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    const std::size_t start = isAbstract ? 1 : 0;
-    if (path.size() + start >= sizeof(address.sun_path))
-        return false;
-    std::ranges::copy(path, address.sun_path + start);
-    const auto length = offsetof(sockaddr_un, sun_path) + start + path.size();
-    const int connection = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const bool answers = connect(connection, reinterpret_cast<const sockaddr*>(&address),
-                                 static_cast<socklen_t>(length)) == 0;
-    close(connection);
-    return answers;
-}
-
-// ":0" or ":0.0" is a socket of this machine, anything else is taken on trust: the toolkit ends the
-// program when a display does not answer.
+// The toolkit ends the program when a display does not answer or refuses the user, so it is asked
+// first, by the library that the toolkit's own plugin uses (xcb.h of libxcb 1.15).
 bool HasX11() {
-    const std::string display = Environment("DISPLAY");
-    if (!display.starts_with(':'))
-        return !display.empty();
-    const std::string number = display.substr(1, display.find('.') - 1);
-    const std::string path = "/tmp/.X11-unix/X" + number;
-    return AnswersAt(path, false) || AnswersAt(path, true);
+    if (Environment("DISPLAY").empty())
+        return false;
+    QLibrary xcb("xcb", 1);
+    using Connect = void* (*)(const char* display, int* screen);
+    const auto connect = reinterpret_cast<Connect>(xcb.resolve("xcb_connect"));
+    const auto hasError = reinterpret_cast<int (*)(void*)>(xcb.resolve("xcb_connection_has_error"));
+    const auto disconnect = reinterpret_cast<void (*)(void*)>(xcb.resolve("xcb_disconnect"));
+    if (!connect || !hasError || !disconnect)
+        return false;
+    void* const connection = connect(nullptr, nullptr);
+    const bool answers = hasError(connection) == 0;
+    disconnect(connection);
+    return answers;
 }
 
 bool HasWayland() {
