@@ -29,14 +29,14 @@ CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesyste
       m_area(*new CPanelArea(this)),
       m_devices(*new CDevicePane(this)),
       m_status(*new CStatusLine(this)),
-      m_session(
-          std::make_unique<CSession>(std::move(panel), static_cast<ISessionObserver&>(*this))) {
+      m_panelHost(
+          std::make_unique<CPanelHost>(std::move(panel), static_cast<IPanelHostObserver&>(*this))) {
     setWindowTitle(kTitle);
     BuildLayout();
-    m_session->CreateView(m_area.Holder());
-    const contract::PixelSize natural = m_session->GetNaturalSize();
+    m_panelHost->CreateView(m_area.Holder());
+    const contract::PixelSize natural = m_panelHost->GetNaturalSize();
     m_area.Fit({natural.width, natural.height}, [this](QSize size) {
-        m_session->Resize({size.width(), size.height()});
+        m_panelHost->Resize({size.width(), size.height()});
     });
     m_devices.OnConnect([this](const auto& folder) { Connect(folder); });
     m_devices.OnDisconnect([this] { Disconnect(); });
@@ -44,29 +44,29 @@ CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesyste
             [this] { ListDevices(); });
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this,
             [this] { close(); });
-    m_status.ShowPolling(m_session->IsPolling());
+    m_status.ShowPolling(m_panelHost->IsPolling());
     ConnectionChanged();
     ListDevices();
     resize(sizeHint().boundedTo(screen()->availableSize()));
 }
 
-CMainWindow::~CMainWindow() { m_session.reset(); }
+CMainWindow::~CMainWindow() { m_panelHost.reset(); }
 
 void CMainWindow::Start(const std::optional<OpenedDevice>& device) {
     if (!device) {
-        m_session->Start({}, nullptr);
+        m_panelHost->Start({}, nullptr);
         return;
     }
     m_given = device->folder;
     ListDevices();
     m_devices.Choose(device->folder);
-    m_session->Start(device->folder.string(), device->device);
+    m_panelHost->Start(device->folder.string(), device->device);
 }
 
 QWidget& CMainWindow::PanelHolder() { return m_area.Holder(); }
 
 void CMainWindow::closeEvent(QCloseEvent* event) {
-    if (m_mayClose || m_session->IsIdle()) {
+    if (m_mayClose || m_panelHost->IsIdle()) {
         event->accept();
         return;
     }
@@ -81,15 +81,15 @@ void CMainWindow::CallLasts(const interception::Operation& operation) {
 
 void CMainWindow::CallReturned(const interception::Operation& operation) {
     if (operation.name == kSwitchPolling)
-        m_status.ShowPolling(m_session->IsPolling());
+        m_status.ShowPolling(m_panelHost->IsPolling());
     if (std::exchange(m_hasLastingCall, false))
         m_status.EndOperation();
 }
 
 void CMainWindow::ConnectionChanged() {
-    const std::filesystem::path folder = m_session->DeviceName();
+    const std::filesystem::path folder = m_panelHost->DeviceName();
     const QString name = folder.empty() ? QString() : NameOf(folder);
-    m_status.ShowDevice(name, m_session->IsConnected());
+    m_status.ShowDevice(name, m_panelHost->IsConnected());
     m_devices.Mark(folder);
     setWindowTitle(name.isEmpty() ? QString(kTitle) : QString(kTitle) + " - " + name);
 }
@@ -121,10 +121,10 @@ void CMainWindow::Connect(const std::filesystem::path& folder) {
         box.exec();
         return;
     }
-    m_session->Connect(folder.string(), std::get<0>(opened));
+    m_panelHost->Connect(folder.string(), std::get<0>(opened));
 }
 
-void CMainWindow::Disconnect() { m_session->Disconnect(); }
+void CMainWindow::Disconnect() { m_panelHost->Disconnect(); }
 
 void CMainWindow::ListDevices() {
     auto folders = simulator::ListDevices(m_root);
@@ -136,7 +136,7 @@ void CMainWindow::ListDevices() {
 void CMainWindow::CloseWhenIdle() {
     if (std::exchange(m_mustClose, true))
         return;
-    m_session->RunWhenIdle([this] {
+    m_panelHost->RunWhenIdle([this] {
         m_mayClose = true;
         close();
     });

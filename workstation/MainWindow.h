@@ -1,7 +1,7 @@
 #pragma once
 
 #include "contract/panel/Panel.h"
-#include "workstation/Session.h"
+#include "workstation/PanelHost.h"
 
 #include <QMainWindow>
 
@@ -30,7 +30,7 @@ struct OpenedDevice {
 ///
 /// A close that comes while a command of the panel is running is remembered and carried out when it
 /// has ended.
-class CMainWindow : public QMainWindow, private ISessionObserver {
+class CMainWindow : public QMainWindow, private IPanelHostObserver {
 public:
     /// `root`: the folder that the devices are listed from; empty for none.
     CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesystem::path root);
@@ -41,7 +41,7 @@ public:
 
     /// Whether nothing waits to be done and no command of the panel is running. To be asked from
     /// the event loop.
-    bool IsIdle() { return m_session->IsIdle(); }
+    bool IsIdle() { return m_panelHost->IsIdle(); }
 
     /// The widget that holds the panel's view.
     QWidget& PanelHolder();
@@ -72,7 +72,7 @@ private:
     bool m_mustClose = false;
     bool m_mayClose = false;
     // Ended by the destructor, before the widgets that the panel's view stands in.
-    std::unique_ptr<CSession> m_session;
+    std::unique_ptr<CPanelHost> m_panelHost;
 };
 
 }

@@ -1,4 +1,4 @@
-#include "workstation/Session.h"
+#include "workstation/PanelHost.h"
 
 #include "contract/device/ProgrammingDeviceControl.h"
 #include "contract/device/ProgrammingDeviceControlEvents.h"
@@ -20,9 +20,9 @@ namespace workstation {
 using contract::kSuccess;
 using contract::Status;
 
-class CSession::CViewControl : public contract::IHostViewControl {
+class CPanelHost::CViewControl : public contract::IHostViewControl {
 public:
-    explicit CViewControl(ISessionObserver& observer) : m_observer(observer) {}
+    explicit CViewControl(IPanelHostObserver& observer) : m_observer(observer) {}
 
     Status ClosePanel() override {
         m_observer.CloseRequested();
@@ -30,27 +30,27 @@ public:
     }
 
 private:
-    ISessionObserver& m_observer;
+    IPanelHostObserver& m_observer;
 };
 
-class CSession::CConnectionSink : public contract::_IExtConnectionEvents {
+class CPanelHost::CConnectionSink : public contract::_IExtConnectionEvents {
 public:
-    explicit CConnectionSink(CSession& session) : m_session(session) {}
+    explicit CConnectionSink(CPanelHost& panelHost) : m_panelHost(panelHost) {}
 
     Status ConnectionStateChanged(Status status, std::int32_t state) override {
         if (status.IsSuccess())
-            m_session.OnConnectionState(state);
+            m_panelHost.OnConnectionState(state);
         return kSuccess;
     }
     Status Event2(std::int32_t, std::int32_t) override { return kSuccess; }
 
 private:
-    CSession& m_session;
+    CPanelHost& m_panelHost;
 };
 
-class CSession::CProgressSink : public contract::_IProgrammingDeviceControlEvents {
+class CPanelHost::CProgressSink : public contract::_IProgrammingDeviceControlEvents {
 public:
-    explicit CProgressSink(ISessionObserver& observer) : m_observer(observer) {}
+    explicit CProgressSink(IPanelHostObserver& observer) : m_observer(observer) {}
 
     Status ModeChanged(std::int32_t) override { return kSuccess; }
     Status DeviceMessage(const std::string& text, std::uint32_t done,
@@ -61,10 +61,10 @@ public:
     Status Event3(std::int32_t, std::int32_t) override { return kSuccess; }
 
 private:
-    ISessionObserver& m_observer;
+    IPanelHostObserver& m_observer;
 };
 
-CSession::CSession(std::shared_ptr<contract::IPanel> panel, ISessionObserver& observer)
+CPanelHost::CPanelHost(std::shared_ptr<contract::IPanel> panel, IPanelHostObserver& observer)
     : m_observer(observer),
       m_worker(std::make_shared<CWorkerInterceptor>(observer)),
       m_gate(std::make_shared<CConnectionGate>([this] { return IsPanelBusy(); })),
@@ -76,41 +76,41 @@ CSession::CSession(std::shared_ptr<contract::IPanel> panel, ISessionObserver& ob
     m_host.SetHostViewControl(std::make_shared<CViewControl>(observer));
 }
 
-CSession::~CSession() {
+CPanelHost::~CPanelHost() {
     for (const auto& unwatch : {m_unwatchConnection, m_unwatchProgress})
         if (unwatch)
             unwatch();
     m_panel->DestroyView();
 }
 
-void CSession::CreateView(QWidget& parent) {
+void CPanelHost::CreateView(QWidget& parent) {
     // A panel that cannot register or make a view shows none; there is nothing to do about it here.
     static_cast<void>(m_panel->SetContextAndRegister(m_host.Context()));
     static_cast<void>(m_panel->CreateView(&parent));
 }
 
-void CSession::Start(std::string name, std::shared_ptr<simulator::CDevice> device) {
+void CPanelHost::Start(std::string name, std::shared_ptr<simulator::CDevice> device) {
     RunWhenIdle(
         [this, name = std::move(name), device = std::move(device)] { HandOver(name, device); });
 }
 
-void CSession::Connect(std::string name, std::shared_ptr<simulator::CDevice> device) {
+void CPanelHost::Connect(std::string name, std::shared_ptr<simulator::CDevice> device) {
     RunWhenIdle([this, name = std::move(name), device = std::move(device)] { Swap(name, device); });
 }
 
-void CSession::Disconnect() {
+void CPanelHost::Disconnect() {
     RunWhenIdle([this] { Swap({}, nullptr); });
 }
 
 // Handlers run at level 1 of the event loop; a deeper one means that a command, or one of its
 // boxes, menus and device calls, waits below. Boxes are asked for as well, since a program without
 // a main loop (a test) counts from one level less.
-bool CSession::IsPanelBusy() const {
+bool CPanelHost::IsPanelBusy() const {
     return m_worker->IsBusy() || QThread::currentThread()->loopLevel() > 1 ||
            QApplication::activeModalWidget() || QApplication::activePopupWidget();
 }
 
-void CSession::HandOver(const std::string& name, std::shared_ptr<simulator::CDevice> device) {
+void CPanelHost::HandOver(const std::string& name, std::shared_ptr<simulator::CDevice> device) {
     // A failure is the panel's to report.
     static_cast<void>(m_panel->SetSubsystemAccess(m_access));
     static_cast<void>(m_panel->SetConnection(m_connection));
@@ -122,7 +122,7 @@ void CSession::HandOver(const std::string& name, std::shared_ptr<simulator::CDev
     static_cast<void>(m_panel->Go());
 }
 
-void CSession::Swap(const std::string& name, std::shared_ptr<simulator::CDevice> device) {
+void CPanelHost::Swap(const std::string& name, std::shared_ptr<simulator::CDevice> device) {
     if (m_isConnected)
         Raise(contract::kConnectionDeviceGone);
     m_host.RemoveDevice();
@@ -134,31 +134,31 @@ void CSession::Swap(const std::string& name, std::shared_ptr<simulator::CDevice>
     m_observer.ConnectionChanged();
 }
 
-void CSession::Insert(const std::string& name, std::shared_ptr<simulator::CDevice> device) {
+void CPanelHost::Insert(const std::string& name, std::shared_ptr<simulator::CDevice> device) {
     m_host.InsertDevice(std::move(device));
     m_deviceName = name;
     m_isConnected = true;
     m_observer.ConnectionChanged();
 }
 
-void CSession::Raise(std::int32_t state) {
+void CPanelHost::Raise(std::int32_t state) {
     const CConnectionGate::COpening opening(*m_gate);
     m_host.RaiseConnectionState(kSuccess, state);
 }
 
-void CSession::OnConnectionState(std::int32_t state) {
+void CPanelHost::OnConnectionState(std::int32_t state) {
     if (state != contract::kConnectionDeviceGone && state != contract::kConnectionDeviceReady)
         return;
     m_isConnected = state == contract::kConnectionDeviceReady;
     m_observer.ConnectionChanged();
 }
 
-void CSession::WatchConnection() {
+void CPanelHost::WatchConnection() {
     m_unwatchConnection = Watch<contract::_IExtConnectionEvents>(
         *m_connection, std::make_shared<CConnectionSink>(*this));
 }
 
-void CSession::WatchProgress() {
+void CPanelHost::WatchProgress() {
     std::shared_ptr<contract::ISubsystem> subsystem;
     std::shared_ptr<contract::IProgrammingDeviceSubsystem> devices;
     std::shared_ptr<contract::IProgrammingDeviceControl> control;

@@ -19,9 +19,9 @@ class CDevice;
 
 namespace workstation {
 
-/// Is told by a session what its user should see. User-interface thread only; calls may come from
-/// inside a command of the panel.
-class ISessionObserver : public ICallObserver {
+/// Is told by a panel's host what its user should see. User-interface thread only; calls may come
+/// from inside a command of the panel.
+class IPanelHostObserver : public ICallObserver {
 public:
     /// A device has been connected, disconnected, lost or found again.
     virtual void ConnectionChanged() {}
@@ -37,16 +37,16 @@ public:
 /// Devices come and go behind one subsystem and one control, since a panel keeps the first control
 /// that it gets. Device calls run on a worker; states of the connection reach the panel only while
 /// it is idle. User-interface thread only.
-class CSession {
+class CPanelHost {
 public:
-    /// `panel` is released at the session's end; `observer` must outlive the session.
-    CSession(std::shared_ptr<contract::IPanel> panel, ISessionObserver& observer);
-    ~CSession();
-    CSession(const CSession&) = delete;
-    CSession& operator=(const CSession&) = delete;
+    /// `panel` is released at the host's end; `observer` must outlive the host.
+    CPanelHost(std::shared_ptr<contract::IPanel> panel, IPanelHostObserver& observer);
+    ~CPanelHost();
+    CPanelHost(const CPanelHost&) = delete;
+    CPanelHost& operator=(const CPanelHost&) = delete;
 
     /// Hands the panel its context and has it make its view in `parent`, which must outlive the
-    /// session. Once, before Start.
+    /// host. Once, before Start.
     void CreateView(QWidget& parent);
     contract::PixelSize GetNaturalSize() const { return m_panel->GetNaturalSize(); }
     void Resize(contract::PixelSize size) { m_panel->Resize(size); }
@@ -88,7 +88,7 @@ private:
     void WatchConnection();
     void WatchProgress();
 
-    ISessionObserver& m_observer;
+    IPanelHostObserver& m_observer;
     simulator::CHost m_host;
     const std::shared_ptr<CWorkerInterceptor> m_worker;
     const std::shared_ptr<CConnectionGate> m_gate;
@@ -96,7 +96,7 @@ private:
     const interception::CInterception m_connectionSide;
     const std::shared_ptr<contract::ISubsystemAccess> m_access;
     const std::shared_ptr<contract::IConnection> m_connection;
-    // Undo the session's own subscriptions.
+    // Undo the host's own subscriptions.
     std::function<void()> m_unwatchConnection;
     std::function<void()> m_unwatchProgress;
     std::string m_deviceName;

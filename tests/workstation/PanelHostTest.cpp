@@ -1,4 +1,4 @@
-#include "workstation/Session.h"
+#include "workstation/PanelHost.h"
 
 #include "tests/workstation/Devices.h"
 #include "tests/workstation/Until.h"
@@ -23,8 +23,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-/// Keeps what a session tells.
-class RecordingObserver : public workstation::ISessionObserver {
+/// Keeps what a panel's host tells.
+class RecordingObserver : public workstation::IPanelHostObserver {
 public:
     void CallReturned(const interception::Operation& operation) override {
         m_calls.emplace_back(operation.name);
@@ -49,24 +49,24 @@ public:
     int m_closeRequests = 0;
 };
 
-class SessionTest : public testing::Test {
+class PanelHostTest : public testing::Test {
 protected:
-    SessionTest() {
-        m_session.CreateView(m_parent);
+    PanelHostTest() {
+        m_panelHost.CreateView(m_parent);
         m_parent.show();
     }
 
     void StartWith(std::shared_ptr<simulator::CDevice> device) {
         const std::string name = device ? "first" : "";
-        m_session.Start(name, std::move(device));
+        m_panelHost.Start(name, std::move(device));
         ExpectIdle();
     }
     void Connect(std::shared_ptr<simulator::CDevice> device) {
-        m_session.Connect("second", std::move(device));
+        m_panelHost.Connect("second", std::move(device));
         ExpectIdle();
     }
     void ExpectIdle() {
-        EXPECT_TRUE(Until([this] { return m_session.IsIdle(); }));
+        EXPECT_TRUE(Until([this] { return m_panelHost.IsIdle(); }));
     }
 
     auto Refreshes() const { return m_observer.CountOf("SoftwareInfo.GetBootSwVersion"); }
@@ -83,38 +83,38 @@ protected:
 
     QWidget m_parent;
     RecordingObserver m_observer;
-    workstation::CSession m_session{workstation::CreatePanel(), m_observer};
+    workstation::CPanelHost m_panelHost{workstation::CreatePanel(), m_observer};
     std::vector<std::string> m_boxes;
     workstation::CPromptAnswerer m_answerer{
         m_parent, [this](const std::string& box) { m_boxes.push_back(box); }};
 };
 
-TEST_F(SessionTest, StartWithDeviceCostsOneRefresh) {
+TEST_F(PanelHostTest, StartWithDeviceCostsOneRefresh) {
     StartWith(MakeDevice(3));
     EXPECT_EQ(Refreshes(), 1);
     EXPECT_EQ(SerialNumber(), "00-00-5E-00-53-07");
     EXPECT_EQ(ListedFiles(), 3);
-    EXPECT_TRUE(m_session.IsConnected());
-    EXPECT_EQ(m_session.DeviceName(), "first");
+    EXPECT_TRUE(m_panelHost.IsConnected());
+    EXPECT_EQ(m_panelHost.DeviceName(), "first");
     EXPECT_THAT(m_boxes, IsEmpty());
 }
 
-TEST_F(SessionTest, StartWithoutDeviceReadsNothing) {
+TEST_F(PanelHostTest, StartWithoutDeviceReadsNothing) {
     StartWith(nullptr);
     EXPECT_EQ(Refreshes(), 0);
-    EXPECT_FALSE(m_session.IsConnected());
+    EXPECT_FALSE(m_panelHost.IsConnected());
     EXPECT_THAT(m_boxes, IsEmpty());
 }
 
-TEST_F(SessionTest, DeviceConnectedLaterCostsOneRefresh) {
+TEST_F(PanelHostTest, DeviceConnectedLaterCostsOneRefresh) {
     StartWith(nullptr);
     Connect(MakeDevice(3));
     EXPECT_EQ(Refreshes(), 1);
     EXPECT_EQ(ListedFiles(), 3);
-    EXPECT_EQ(m_session.DeviceName(), "second");
+    EXPECT_EQ(m_panelHost.DeviceName(), "second");
 }
 
-TEST_F(SessionTest, AnotherDeviceCostsOneRefreshAndIsShown) {
+TEST_F(PanelHostTest, AnotherDeviceCostsOneRefreshAndIsShown) {
     StartWith(MakeDevice(3));
     simulator::DeviceDescription other = HealthyDevice(5);
     other.network.macAddress = "00-00-5E-00-53-99";
@@ -125,7 +125,7 @@ TEST_F(SessionTest, AnotherDeviceCostsOneRefreshAndIsShown) {
     EXPECT_THAT(m_boxes, IsEmpty());
 }
 
-TEST_F(SessionTest, AnotherDeviceIsAskedForItsOwnMode) {
+TEST_F(PanelHostTest, AnotherDeviceIsAskedForItsOwnMode) {
     StartWith(MakeDevice());
     simulator::DeviceDescription other = HealthyDevice();
     other.mode = simulator::kServiceMode;
@@ -134,59 +134,59 @@ TEST_F(SessionTest, AnotherDeviceIsAskedForItsOwnMode) {
     EXPECT_THAT(m_boxes, SizeIs(1)) << "the warning that the device is not in Normal mode";
 }
 
-TEST_F(SessionTest, DisconnectDisablesThePanel) {
+TEST_F(PanelHostTest, DisconnectDisablesThePanel) {
     StartWith(MakeDevice());
     EXPECT_TRUE(Control(224)->isEnabled());
-    m_session.Disconnect();
+    m_panelHost.Disconnect();
     ExpectIdle();
     EXPECT_FALSE(Control(224)->isEnabled());
-    EXPECT_FALSE(m_session.IsConnected());
-    EXPECT_EQ(m_session.DeviceName(), "");
+    EXPECT_FALSE(m_panelHost.IsConnected());
+    EXPECT_EQ(m_panelHost.DeviceName(), "");
 }
 
-TEST_F(SessionTest, DeviceLostDuringARefreshIsGoneAfterIt) {
+TEST_F(PanelHostTest, DeviceLostDuringARefreshIsGoneAfterIt) {
     StartWith(nullptr);
     simulator::DeviceDescription leaving = HealthyDevice();
     leaving.loss = simulator::DeviceLoss{"ProgrammingDeviceControl.GetFileListing", 1, {}};
     Connect(simulator::CDevice::Create(leaving));
-    EXPECT_FALSE(m_session.IsConnected());
+    EXPECT_FALSE(m_panelHost.IsConnected());
     EXPECT_FALSE(Control(224)->isEnabled());
     EXPECT_THAT(m_boxes, SizeIs(1)) << "the report of the listing that failed";
 }
 
-TEST_F(SessionTest, DeviceThatComesBackIsReadAgainAfterTheRefresh) {
+TEST_F(PanelHostTest, DeviceThatComesBackIsReadAgainAfterTheRefresh) {
     StartWith(nullptr);
     simulator::DeviceDescription leaving = HealthyDevice(3);
     leaving.loss = simulator::DeviceLoss{"SoftwareInfo.GetBootSwVersion", 1, 2};
     Connect(simulator::CDevice::Create(leaving));
-    EXPECT_TRUE(m_session.IsConnected());
+    EXPECT_TRUE(m_panelHost.IsConnected());
     EXPECT_TRUE(Control(224)->isEnabled());
     EXPECT_EQ(Refreshes(), 2);
     EXPECT_EQ(ListedFiles(), 3);
 }
 
-TEST_F(SessionTest, SlowDeviceIsReportedWhileItWorks) {
+TEST_F(PanelHostTest, SlowDeviceIsReportedWhileItWorks) {
     simulator::DeviceDescription slow = HealthyDevice();
     slow.latency.operationsMs["ProgrammingDeviceControl.GetFileListing"] = 60;
     StartWith(simulator::CDevice::Create(slow));
     EXPECT_THAT(m_observer.m_lasting, testing::Contains("ProgrammingDeviceControl.GetFileListing"));
 }
 
-TEST_F(SessionTest, DeviceMessagesAreReportedAsProgress) {
+TEST_F(PanelHostTest, DeviceMessagesAreReportedAsProgress) {
     const auto device = MakeDevice();
     StartWith(device);
     device->RaiseMessage("Uploading", 1, 2);
     EXPECT_THAT(m_observer.m_progress, ElementsAre("Uploading"));
 }
 
-TEST_F(SessionTest, CloseButtonAsksAndTheViewOutlivesTheRequest) {
+TEST_F(PanelHostTest, CloseButtonAsksAndTheViewOutlivesTheRequest) {
     StartWith(MakeDevice());
     Control<QPushButton>(230)->click();
     EXPECT_EQ(m_observer.m_closeRequests, 1);
     EXPECT_NE(Control(230), nullptr);
 }
 
-TEST_F(SessionTest, FailingDeviceIsReportedWithItsDescription) {
+TEST_F(PanelHostTest, FailingDeviceIsReportedWithItsDescription) {
     simulator::DeviceDescription failing = HealthyDevice();
     simulator::Fault fault;
     fault.operation = "ProgrammingDeviceControl.GetSoftwareInfo";
