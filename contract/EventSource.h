@@ -7,19 +7,22 @@
 
 namespace contract {
 
-/// A source of the events of one event interface.
-///
-/// User-interface thread only.
+/// A source of the events of one event interface. The panel subscribes and unsubscribes on the
+/// user-interface thread, also from inside an event of the same source (a host may release it
+/// there), so a source goes through its sinks in a way that stands that.
 template <class Events>
 class IEventSource {
 public:
     virtual ~IEventSource() = default;
 
-    /// Adds `sink` and delivers the 32-bit cookie that names the subscription. The source holds the
-    /// sink until it is unsubscribed. On failure nothing is held and `cookie` is untouched.
+    /// Adds `sink`, which must not be null (kInvalidPointer), and delivers the 32-bit cookie that
+    /// names the subscription, which is never kNotSubscribed. The source holds the sink until it is
+    /// unsubscribed. On failure nothing is held and `cookie` is untouched.
     virtual Status Subscribe(const std::shared_ptr<Events>& sink, std::uint32_t& cookie) = 0;
 
-    /// Ends the subscription and releases its sink. Fails for a cookie that names none.
+    /// Ends the subscription and releases its sink; no event reaches it any more. Fails for a
+    /// cookie that names none, such as kNotSubscribed, which the panel passes when subscribing had
+    /// failed.
     virtual Status Unsubscribe(std::uint32_t cookie) = 0;
 };
 

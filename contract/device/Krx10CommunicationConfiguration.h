@@ -51,6 +51,7 @@ public:
     virtual Status SetDhcp(bool useDhcp) = 0;
     virtual Status SetSubnetMask(AddressValue mask) = 0;
     virtual Status SetGateway(AddressValue gateway) = 0;
+    /// UTF-8, at most 110 bytes from this panel.
     virtual Status SetDescription(const std::string& description) = 0;
     /// Writes the copy to the device; all of it or nothing.
     virtual Status ApplyConfiguration() = 0;

@@ -26,7 +26,10 @@ inline constexpr std::uint32_t kPcCardTest = 0x2000;
 
 /// The programming-device service: every operation on the connected device.
 ///
-/// All operations run on the user-interface thread and block it until the device answers. A failing
+/// One call at a time: the panel calls on the user-interface thread and is blocked until the device
+/// answers; a host may carry the calls out on a thread of its own meanwhile, which then is the
+/// thread of the description and of the events, and the host brings the events to the
+/// user-interface thread. The same goes for every object that an operation delivers. A failing
 /// operation returns a negative status, leaves its results untouched and may leave a description
 /// (contract/ErrorInfo.h). Events may be raised from inside any operation. Objects delivered are
 /// the caller's to release. An operation that succeeds delivers an object that is not null.
@@ -58,7 +61,8 @@ public:
                                    std::int32_t method, std::int32_t& result) = 0;
 
     /// Moves the file (type, low 16 bits of its identifier) to destination 2 flash memory or 3
-    /// external storage. `reserved` is 0.
+    /// external storage. `type` is 0 when the files selected together are of several types.
+    /// `reserved` is 0.
     virtual Status MoveFile(std::int32_t type, std::int32_t id, std::int32_t destination,
                             std::int32_t reserved) = 0;
 
@@ -66,9 +70,9 @@ public:
     /// every file.
     virtual Status DeleteFile(std::int32_t type, std::int32_t id) = 0;
 
-    /// Loads code or a whole software image from `path`. codeKind: 0 FPGA code, 1 application code,
-    /// -1 image. `reserved` is -1. mode: 0 or 1 choose the way application code takes (0 RS-232, 1
-    /// the current connection), -1 for an image.
+    /// Loads code or a whole software image from `path` (UTF-8, absolute). codeKind: 0 FPGA code, 1
+    /// application code, -1 image. `reserved` is -1. mode: 0 for FPGA code; for application code
+    /// the way it takes, 0 RS-232 or 1 the current connection; -1 for an image.
     virtual Status UploadCode(const std::string& path, std::int32_t codeKind, std::int32_t reserved,
                               std::int32_t mode) = 0;
 

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "contract/Guid.h"
 #include "contract/Status.h"
 
 #include <cstdint>
 #include <string>
 
 namespace contract {
+
+/// Identifies the event interface where identifiers cross a binary boundary.
+inline constexpr Guid kProgrammingDeviceControlEvents{
+    0xE6225EB8, 0x46C0, 0x4D3F, {0x80, 0xBE, 0x5D, 0xA0, 0x25, 0x5A, 0xFD, 0xC4}};
 
 /// Events of the programming-device control, by number.
 ///
@@ -21,7 +26,8 @@ public:
     virtual Status ModeChanged(std::int32_t mode) = 0;
 
     /// 2: progress. `text` is UTF-8 (empty: absent); `done` of `total` in a unit of the operation's
-    /// choice (uploads count bytes); `total` 0 means a plain notice without a percentage.
+    /// choice (uploads count bytes); `total` 0 means a plain notice without a percentage. The panel
+    /// shows one line of at most 259 bytes and passes over one that says what the last one said.
     virtual Status DeviceMessage(const std::string& text, std::uint32_t done,
                                  std::uint32_t total) = 0;
 

@@ -10,7 +10,8 @@ namespace contract {
 class IKrx20SwInfo;
 
 /// The software versions of a device, each a UTF-8 text that is empty when the device has no such
-/// part. User-interface thread only; results are untouched on failure.
+/// part. A report shows the first 80 bytes. User-interface thread only; results are untouched on
+/// failure.
 class ISoftwareInfo {
 public:
     virtual ~ISoftwareInfo() = default;

@@ -1,13 +1,22 @@
 #pragma once
 
+#include "contract/Guid.h"
 #include "contract/Status.h"
 
 #include <cstdint>
 
 namespace contract {
 
+/// Identifies the event interface where identifiers cross a binary boundary.
+inline constexpr Guid kExtConnectionEvents{
+    0x2D18C0CC, 0x9421, 0x443F, {0x9D, 0x5A, 0x64, 0x80, 0xF8, 0x7F, 0xC2, 0x8F}};
+
 /// Connection states that the panel acts on. Others exist and are ignored.
+///
+/// Gone: the panel disables its device controls and forgets the mode; it makes no device call.
 inline constexpr std::int32_t kConnectionDeviceGone = 5;
+/// Ready: the panel clears its log, reads the device's type and refreshes everything, with message
+/// boxes where something fails, before the event returns.
 inline constexpr std::int32_t kConnectionDeviceReady = 7;
 
 /// Events of the host's connection object, by number. Raised on the user-interface thread; a host

@@ -9,7 +9,8 @@ namespace contract {
 class IContext;
 
 /// How a host hands the panel its context. Two forms; use one of them, before the view is created
-/// (without a context the view stays inert for good).
+/// (without a context the view stays inert for good). A context that takes the place of another one
+/// ends the panel's registration with that one.
 class IContextMember {
 public:
     virtual ~IContextMember() = default;

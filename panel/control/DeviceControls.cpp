@@ -28,7 +28,7 @@ std::string_view InfoTitle(DeviceType type) {
 }
 
 DeviceControlRules RulesFor(DeviceType type, bool enable) {
-    return {InfoTitle(type), enable && !IsKrx8Family(type), enable, !enable};
+    return {InfoTitle(type), enable && !IsKrx8Family(type)};
 }
 
 void CDeviceControls::EnableDeviceControls(bool enable) {
@@ -41,9 +41,9 @@ void CDeviceControls::EnableDeviceControls(bool enable) {
     }
     m_view->SetText(m_view[kInfoGroup], rules.infoTitle);
     for (const ControlId id : kDeviceControls) {
-        m_view->SetEnabled(m_view[id], rules.enableDevice);
+        m_view->SetEnabled(m_view[id], enable);
     }
-    if (rules.disableDetails) {
+    if (!enable) {
         m_view->SetEnabled(m_view[kDetailsButton], false);
     }
 }

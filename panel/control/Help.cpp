@@ -1,7 +1,5 @@
 #include "panel/control/Help.h"
 
-#include <filesystem>
-
 namespace panel {
 
 namespace {
@@ -20,8 +18,8 @@ void CHelp::ShowHelp(std::uint32_t context) {
 }
 
 void CHelp::Open(std::uint32_t context, Owner owner) {
-    const std::filesystem::path folder = m_toolkit.GetComponentFolder();
-    m_toolkit.ShowHelp((folder / kHelpFile).string(), context, owner);
+    // Joined as UTF-8; every system that we run on takes this separator.
+    m_toolkit.ShowHelp(m_toolkit.GetComponentFolder() + "/" + kHelpFile, context, owner);
 }
 
 }

@@ -15,12 +15,13 @@ using contract::Status;
 
 namespace {
 
+// The log is made ready before the others are looked for.
+constexpr ControlId kFirstCapturedControl[] = {kStatusLog};
 constexpr ControlId kCapturedControls[] = {
-    kStatusLog,     kProgressGroup, kFileGroup,          kUpdateButton,      kDetailsButton,
-    kDeleteButton,  kReportButton,  kFileList,           kResetButton,       kHelpButton,
-    kCloseButton,   kNetworkButton, kInfoGroup,          kSerialNumberField, kHardwareField,
-    kBootSwField,   kFpgaField,     kApplicationSwField, kSelfTestField,     kIpAddressLabel,
-    kIpAddressField};
+    kProgressGroup, kFileGroup,          kUpdateButton,      kDetailsButton,  kDeleteButton,
+    kReportButton,  kFileList,           kResetButton,       kHelpButton,     kCloseButton,
+    kNetworkButton, kInfoGroup,          kSerialNumberField, kHardwareField,  kBootSwField,
+    kFpgaField,     kApplicationSwField, kSelfTestField,     kIpAddressLabel, kIpAddressField};
 
 std::uint16_t ToLength(int pixels) {
     return static_cast<std::uint16_t>(
@@ -48,18 +49,23 @@ CKRX8Maintenance::CKRX8Maintenance(Private, std::unique_ptr<IToolkit> toolkit)
       m_refresh(m_services, m_selfTests, m_information, m_files, m_updateCheck, m_controls),
       m_typeReader(m_services, m_refresh) {}
 
-CKRX8Maintenance::~CKRX8Maintenance() { Detach(); }
-
-// The view
+CKRX8Maintenance::~CKRX8Maintenance() {
+    // Host code runs below; nothing the user does meanwhile may reach a panel that is going.
+    m_view.Detach();
+    m_ownedView.reset();
+    Detach();
+}
 
 Status CKRX8Maintenance::CreateView(void* nativeParent) {
     if (m_hadView) {
         return contract::kUnspecifiedFailure;
     }
     const auto self = Self();
+    // Before the view is made: a host may ask for another one from inside.
+    m_hadView = true;
     auto view = m_toolkit->CreateView(kPanelTemplate, nativeParent, *this);
-    m_hadView = view != nullptr;
-    if (!m_hadView) {
+    if (!view) {
+        m_hadView = false;
         return nativeParent ? contract::kUnspecifiedFailure : contract::kInvalidPointer;
     }
     if (!m_view.Exists()) {
@@ -85,8 +91,6 @@ void CKRX8Maintenance::DestroyView() {
     m_view.Detach();
     m_ownedView.reset();
 }
-
-// Arrivals from the view
 
 void CKRX8Maintenance::Arrive(const Notification& notification) {
     const auto self = Self();
@@ -118,8 +122,6 @@ void CKRX8Maintenance::OnHelp(std::uint32_t context) {
     Arrive({.event = PanelEvent::HelpRequested, .helpContext = context});
 }
 
-// Handlers of the command table
-
 void CKRX8Maintenance::OnViewCreated(const Notification&) { InitializePanel(); }
 
 void CKRX8Maintenance::OnViewResized(const Notification& notification) {
@@ -148,8 +150,9 @@ bool CKRX8Maintenance::InitializePanel() {
         m_view->SetVisible(kCloseButton, false);
         return false;
     }
-    m_view.Capture(kCapturedControls);
+    m_view.Capture(kFirstCapturedControl);
     m_view->SetTextLimit(m_view[kStatusLog], kNoTextLimit);
+    m_view.Capture(kCapturedControls);
     m_files.InsertColumns();
     m_view->SetFocus(m_view[kUpdateButton]);
     return true;
@@ -170,8 +173,6 @@ void CKRX8Maintenance::ClosePanel() {
         static_cast<void>(Call(viewControl, &contract::IHostViewControl::ClosePanel));
     }
 }
-
-// Host and device
 
 Status CKRX8Maintenance::Go() {
     const auto self = Self();

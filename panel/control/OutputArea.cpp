@@ -8,6 +8,8 @@
 #include "panel/control/PanelTemplate.h"
 #include "panel/control/Utf8.h"
 
+#include <array>
+#include <charconv>
 #include <limits>
 
 namespace panel {
@@ -25,6 +27,16 @@ std::uint32_t Percent(std::uint32_t done, std::uint32_t total) {
     constexpr auto kLargest = std::numeric_limits<std::uint32_t>::max();
     const double percent = static_cast<double>(done) / total * 100 + 0.1;
     return percent >= kLargest ? kLargest : static_cast<std::uint32_t>(percent);
+}
+
+/// Always with a decimal point, whatever the user's locale puts there.
+std::string WithOneDecimal(double number) {
+    // A sign, the ten digits of a 32-bit number times 100, the point and one digit more.
+    std::array<char, 24> buffer;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                   std::chars_format::fixed, 1)
+                         .ptr;
+    return {buffer.data(), end};
 }
 
 }
@@ -81,7 +93,8 @@ void COutputArea::ShowTaskProgress(std::optional<std::string_view> label, std::i
         m_view->SetProgressPosition(kProgressBar, position);
         percent = position * 100.0 / range;
     }
-    const std::string text = std::string(label.value_or("(null)")) + Format("  %#.1f%%", percent);
+    const std::string text =
+        std::string(label.value_or("(null)")) + "  " + WithOneDecimal(percent) + "%";
     m_view->SetText(kTaskLabel, CutToUtf16Units(text, kLongestTaskLabel));
 }
 

@@ -34,15 +34,18 @@ public:
     COutputArea(CPanelView& view, IToolkit& toolkit,
                 const std::shared_ptr<contract::IContext>& context);
 
-    /// Appends a line to the status log: `text`, or with a `total` that is not 0 "text NN%". A line
-    /// that says what the last one said is not written again.
+    /// Appends a line to the status log: `text` cut to 259 bytes, or with a `total` that is not 0
+    /// "text NN%" cut to 260. Nothing for an absent or empty text. A line that says what the last
+    /// one said is not written again: a plain line is compared with the last text alone, a line
+    /// with a percentage with the last text and the last percentage.
     void AppendStatusLine(std::optional<std::string_view> text, std::uint32_t done = 0,
                           std::uint32_t total = 0);
 
     /// Clears the status log's text. What is remembered of the last line stays.
     void ClearStatusLog();
 
-    /// Drives the progress bar and its label, both of which the template hides.
+    /// Drives the progress bar and its label, "label  NN.N%" cut to 100 units of UTF-16, both of
+    /// which the template hides. An absent label prints as "(null)"; 0 of 0 is 0 per cent.
     void ShowTaskProgress(std::optional<std::string_view> label, std::int32_t position,
                           std::int32_t range);
 

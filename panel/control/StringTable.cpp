@@ -22,9 +22,9 @@ constexpr Entry kStrings[] = {
     {StringId::CannotGetSelfTestResults, "Cannot get self-test results"},
     {StringId::NotInNormalMode,
      "The Programming Device is not in Normal mode and therefore some information about the "
-     "Programming Device can be incorrect.\n\nThis can be a result of invalid or broken software "
-     "of "
-     "the Programming Device. Please, update the Programming Device"},
+     "Programming Device can be incorrect.\n\n"
+     "This can be a result of invalid or broken software of the Programming Device. "
+     "Please, update the Programming Device"},
 };
 
 // What shows a text reserves 512 bytes for it, terminator included.

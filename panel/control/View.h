@@ -41,8 +41,8 @@ public:
 
     /// Returns `id` when the view has such a control, else kNoControl.
     virtual ControlId Capture(ControlId id) = 0;
-    /// For a group box its title. For the log and for lists: nothing (they have verbs of their
-    /// own).
+    /// "&" is shown as it is, never as the mark of a mnemonic. For a group box its title. For the
+    /// log and for lists: nothing (they have verbs of their own).
     virtual void SetText(ControlId id, std::string_view text) = 0;
     /// For the log: all of its text, lines ended by CR LF.
     virtual std::string GetText(ControlId id) const = 0;
@@ -93,6 +93,7 @@ public:
 
     // Log
 
+    /// How many characters the log takes; what is there stays. At first the toolkit's own limit.
     virtual void SetTextLimit(ControlId id, std::size_t characters) = 0;
     /// Appends at the very end, selects nothing and scrolls there. `text` carries its CR LF.
     virtual void AppendLog(ControlId log, std::string_view text) = 0;

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 namespace panel {
 
@@ -18,8 +19,23 @@ public:
     SetContextAndRegister(const std::shared_ptr<contract::IContext>& context) final {
         const auto self = static_cast<Derived*>(this)->Self();
         const contract::Status status = SetContext(context);
-        return status.IsFailure() ? status
-                                  : Call(m_context, &contract::IContext::Register, self, m_cookie);
+        if (status.IsFailure()) {
+            return status;
+        }
+        Unregister(context, std::exchange(m_cookie, kNotRegistered));
+        std::uint32_t cookie = kNotRegistered;
+        const contract::Status registered =
+            Call(context, &contract::IContext::Register, self, cookie);
+        if (registered.IsFailure()) {
+            return registered;
+        }
+        // The host may have set another context from inside that.
+        if (m_context == context) {
+            m_cookie = cookie;
+        } else {
+            Unregister(context, cookie);
+        }
+        return registered;
     }
 
     contract::Status SetContext(const std::shared_ptr<contract::IContext>& context) final {
@@ -27,23 +43,24 @@ public:
             return contract::kInvalidPointer;
         }
         const auto self = static_cast<Derived*>(this)->Self();
-        LeaveContext();
-        m_context = context;
+        if (context != m_context) {
+            const auto former = std::exchange(m_context, context);
+            Unregister(former, std::exchange(m_cookie, kNotRegistered));
+        }
         return contract::kSuccess;
     }
 
 protected:
-    ~IContextMemberImpl() { LeaveContext(); }
+    ~IContextMemberImpl() { Unregister(m_context, m_cookie); }
 
     const std::shared_ptr<contract::IContext>& Context() const { return m_context; }
 
 private:
-    void LeaveContext() {
-        if (m_cookie != kNotRegistered) {
-            static_cast<void>(Call(m_context, &contract::IContext::Unregister,
-                                   std::exchange(m_cookie, kNotRegistered)));
+    static void Unregister(const std::shared_ptr<contract::IContext>& context,
+                           std::uint32_t cookie) {
+        if (cookie != kNotRegistered) {
+            static_cast<void>(Call(context, &contract::IContext::Unregister, cookie));
         }
-        m_context.reset();
     }
 
     static constexpr std::uint32_t kNotRegistered = 0;

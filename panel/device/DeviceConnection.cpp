@@ -42,7 +42,13 @@ Status CDeviceConnection::ObtainSubsystem() {
     if (status.IsFailure()) {
         return status;
     }
-    return Query(subsystem, &contract::ISubsystem::QueryProgrammingDeviceSubsystem, m_subsystem);
+    std::shared_ptr<contract::IProgrammingDeviceSubsystem> devices;
+    const Status queried =
+        Query(subsystem, &contract::ISubsystem::QueryProgrammingDeviceSubsystem, devices);
+    if (queried.IsSuccess()) {
+        m_subsystem = devices;
+    }
+    return queried;
 }
 
 Status CDeviceConnection::ObtainControl(std::shared_ptr<CProgrammingDeviceControlEvents> events) {

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 namespace panel {
 
@@ -18,10 +19,16 @@ public:
     contract::Status Connect(const std::shared_ptr<Object>& object,
                              const std::shared_ptr<Events>& sink) {
         std::shared_ptr<contract::IEventSource<Events>> source;
-        const contract::Status status = FindSource(object, source);
-        return status.IsFailure()
-                   ? status
-                   : Call(source, &contract::IEventSource<Events>::Subscribe, sink, m_cookie);
+        contract::Status status = FindSource(object, source);
+        if (status.IsFailure()) {
+            return status;
+        }
+        std::uint32_t cookie = contract::kNotSubscribed;
+        status = Call(source, &contract::IEventSource<Events>::Subscribe, sink, cookie);
+        if (status.IsSuccess()) {
+            m_cookie = cookie;
+        }
+        return status;
     }
 
     /// Cancels the subscription. The cookie is forgotten also when that fails: there is nobody left

@@ -10,7 +10,6 @@ namespace panel {
 void CFileListKeys::OnFileListKeyDown(std::uint16_t virtualKey) {
     Trace(m_services.toolkit, "CKRX8Maintenance::OnFileListKeyDown: key 0x%hX pressed\n",
           virtualKey);
-    // Deletion and context menu take their places here once they exist.
     if (virtualKey == kDeleteKey || virtualKey == kContextMenuKey) {
         m_services.view->SetFocus(m_services.view[kFileList]);
     }

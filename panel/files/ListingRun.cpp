@@ -89,6 +89,7 @@ bool CListingRun::ListFiles() {
 bool CListingRun::ListFile(const std::shared_ptr<contract::IFileListing>& listing,
                            std::int32_t index) {
     File file;
+    m_name.clear();
     const bool hasName =
         MayGoOn(Obtain(listing, &contract::IFileListing::GetFileInfo, index, file.info),
                 "Cannot get info about a file") &&

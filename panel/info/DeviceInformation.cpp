@@ -74,6 +74,17 @@ struct Reading {
         return status;
     }
 
+    /// A read that fails leaves the value from before, whatever the device wrote.
+    template <class Value>
+    Status Keep(Status (IKrx10CommunicationConfiguration2::*read)(Value&), Value& kept) {
+        Value value{};
+        const Status status = Call(network, read, value);
+        if (status.IsSuccess()) {
+            kept = value;
+        }
+        return status;
+    }
+
     Status KeepDescription() {
         std::string description;
         const Status status =
@@ -161,21 +172,19 @@ constexpr Step kNetworkSteps[] = {
      }},
     {"Querying of IP address as a 32-bit integer failed",
      [](Reading& r) {
-         return Call(r.network, &IKrx10CommunicationConfiguration2::GetIpAddressValue,
-                     r.Kept().ipAddress);
+         return r.Keep(&IKrx10CommunicationConfiguration2::GetIpAddressValue, r.Kept().ipAddress);
      }},
     {"Subnet mask getting failed",
      [](Reading& r) {
-         return Call(r.network, &IKrx10CommunicationConfiguration2::GetSubnetMask,
-                     r.Kept().subnetMask);
+         return r.Keep(&IKrx10CommunicationConfiguration2::GetSubnetMask, r.Kept().subnetMask);
      }},
     {"Gateway address getting failed",
      [](Reading& r) {
-         return Call(r.network, &IKrx10CommunicationConfiguration2::GetGateway, r.Kept().gateway);
+         return r.Keep(&IKrx10CommunicationConfiguration2::GetGateway, r.Kept().gateway);
      }},
     {"DHCP use getting failed",
      [](Reading& r) {
-         return Call(r.network, &IKrx10CommunicationConfiguration2::GetUseDhcp, r.Kept().useDhcp);
+         return r.Keep(&IKrx10CommunicationConfiguration2::GetUseDhcp, r.Kept().useDhcp);
      }},
     {"KRX-10 description query failed", [](Reading& r) { return r.KeepDescription(); }},
     {"MAC address query failed",

@@ -24,16 +24,12 @@ TEST_P(RulesForTest, EnablingGivesTheDeviceControlsOfTheType) {
     const DeviceControlRules rules = RulesFor(static_cast<DeviceType>(GetParam().type), true);
     EXPECT_EQ(rules.infoTitle, GetParam().title);
     EXPECT_EQ(rules.enableNetwork, GetParam().enablesNetwork);
-    EXPECT_TRUE(rules.enableDevice);
-    EXPECT_FALSE(rules.disableDetails);
 }
 
 TEST_P(RulesForTest, DisablingTakesEverythingAndKeepsTheTitle) {
     const DeviceControlRules rules = RulesFor(static_cast<DeviceType>(GetParam().type), false);
     EXPECT_EQ(rules.infoTitle, GetParam().title);
     EXPECT_FALSE(rules.enableNetwork);
-    EXPECT_FALSE(rules.enableDevice);
-    EXPECT_TRUE(rules.disableDetails);
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, RulesForTest,
