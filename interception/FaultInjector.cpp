@@ -52,18 +52,23 @@ contract::Status CFaultInjector::Call(const Operation& operation,
                                       FunctionRef<contract::Status()> run) {
     const std::vector<Plan> plans = Take(operation);
     const auto runAll = [&plans](Effect effect) {
-        for (const Plan& plan : plans)
-            if (plan.effect == effect)
+        for (const Plan& plan : plans) {
+            if (plan.effect == effect) {
                 plan.callback();
+            }
+        }
     };
     runAll(Effect::Before);
     for (const Plan& plan : plans) {
-        if (plan.effect == Effect::Null)
+        if (plan.effect == Effect::Null) {
             return contract::kSuccess;
-        if (plan.effect != Effect::Fail)
+        }
+        if (plan.effect != Effect::Fail) {
             continue;
-        if (!plan.fault.description.empty())
+        }
+        if (!plan.fault.description.empty()) {
             contract::SetErrorInfo(plan.fault.description);
+        }
         return plan.fault.status;
     }
     const contract::Status status = run();
@@ -72,10 +77,12 @@ contract::Status CFaultInjector::Call(const Operation& operation,
 }
 
 void CFaultInjector::Add(Plan plan) {
-    if (plan.call.number == 0)
+    if (plan.call.number == 0) {
         throw std::invalid_argument("Calls are counted from 1.");
-    if (!plan.call.operation.empty() && !FindOperation(plan.call.operation))
+    }
+    if (!plan.call.operation.empty() && !FindOperation(plan.call.operation)) {
         throw std::invalid_argument("No such operation: " + plan.call.operation);
+    }
     const std::lock_guard lock(m_mutex);
     m_plans.push_back(std::move(plan));
 }
@@ -85,8 +92,9 @@ std::vector<CFaultInjector::Plan> CFaultInjector::Take(const Operation& operatio
     const std::size_t numberOfAll = ++m_calls;
     const std::size_t numberOfItsOwn = ++m_callsOf[std::string(operation.name)];
     const auto later = std::stable_partition(m_plans.begin(), m_plans.end(), [&](const Plan& plan) {
-        if (plan.effect == Effect::Null && operation.delivers != Delivers::Object)
+        if (plan.effect == Effect::Null && operation.delivers != Delivers::Object) {
             return false;
+        }
         return plan.call.operation.empty()
                    ? plan.call.number == numberOfAll
                    : plan.call.operation == operation.name && plan.call.number == numberOfItsOwn;

@@ -36,8 +36,9 @@ protected:
         auto& interceptor = Registry().Interceptor();
         const contract::Status status = interceptor.Call(
             *operation, [&] { return (m_target.get()->*method)(arguments..., delivered); });
-        if (status.IsSuccess())
+        if (status.IsSuccess()) {
             result = interceptor.WrapsResultOf(*operation) ? Registry().Wrap(delivered) : delivered;
+        }
         return status;
     }
 

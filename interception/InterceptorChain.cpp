@@ -21,15 +21,17 @@ bool CInterceptorChain::WrapsResultOf(const Operation& operation) const {
 Status CInterceptorChain::Deliver(const Operation& event, std::function<Status()> deliver) {
     // What a link is given holds the links still to be passed and not itself: a link that keeps it
     // must not keep itself alive.
-    for (const auto& link : m_links)
+    for (const auto& link : m_links) {
         deliver = [link, event, next = std::move(deliver)] { return link->Deliver(event, next); };
+    }
     return deliver();
 }
 
 Status CInterceptorChain::CallFrom(std::size_t index, const Operation& operation,
                                    FunctionRef<Status()> run) {
-    if (index == m_links.size())
+    if (index == m_links.size()) {
         return run();
+    }
     return m_links[index]->Call(operation, [&] { return CallFrom(index + 1, operation, run); });
 }
 

@@ -16,15 +16,17 @@ void CLatency::SetDefault(Duration duration) {
 }
 
 void CLatency::Set(std::string_view operation, Duration duration) {
-    if (!FindOperation(operation))
+    if (!FindOperation(operation)) {
         throw std::invalid_argument("No such operation: " + std::string(operation));
+    }
     const std::lock_guard lock(m_mutex);
     m_times.insert_or_assign(std::string(operation), duration);
 }
 
 contract::Status CLatency::Call(const Operation& operation, FunctionRef<contract::Status()> run) {
-    if (const Duration duration = TimeOf(operation.name); duration > Duration::zero())
+    if (const Duration duration = TimeOf(operation.name); duration > Duration::zero()) {
         m_sleep(duration);
+    }
     return run();
 }
 

@@ -22,10 +22,12 @@ private:
     static consteval const Operation& Require(const char* name) {
         const auto table = treatment == Treatment::Event ? Events() : Operations();
         const std::size_t position = PositionIn(table, name);
-        if (position == table.size())
+        if (position == table.size()) {
             throw "The tables do not list this operation.";
-        if ((table[position].delivers == Delivers::Object) != (treatment == Treatment::ForObject))
+        }
+        if ((table[position].delivers == Delivers::Object) != (treatment == Treatment::ForObject)) {
             throw "Operations that deliver an object, and no others, use CallForObject.";
+        }
         return table[position];
     }
 

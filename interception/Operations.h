@@ -121,8 +121,9 @@ constexpr std::span<const Operation> Events() { return kEvents; }
 /// Position of the operation of that name in `table`, or the size of the table.
 constexpr std::size_t PositionIn(std::span<const Operation> table, std::string_view name) {
     std::size_t position = 0;
-    while (position < table.size() && table[position].name != name)
+    while (position < table.size() && table[position].name != name) {
         ++position;
+    }
     return position;
 }
 

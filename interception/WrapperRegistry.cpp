@@ -17,8 +17,9 @@ std::shared_ptr<void> CWrapperRegistry::Keep(const Key& key, std::shared_ptr<voi
     // A loser of the race ends with `made`, after the lock: its destructor comes back here.
     const std::lock_guard lock(m_mutex);
     std::weak_ptr<void>& entry = m_wrappers[key];
-    if (auto winner = entry.lock())
+    if (auto winner = entry.lock()) {
         return winner;
+    }
     entry = made;
     return made;
 }
@@ -27,8 +28,9 @@ void CWrapperRegistry::Erase(const Key& key) {
     const std::lock_guard lock(m_mutex);
     const auto found = m_wrappers.find(key);
     // An entry that lives belongs to a successor, made while the caller was already ending.
-    if (found != m_wrappers.end() && found->second.expired())
+    if (found != m_wrappers.end() && found->second.expired()) {
         m_wrappers.erase(found);
+    }
 }
 
 }

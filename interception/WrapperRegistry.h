@@ -45,14 +45,17 @@ public:
     /// and wrappers of this registry come back as they are.
     template <class Interface>
     std::shared_ptr<Interface> Wrap(const std::shared_ptr<Interface>& object) {
-        if (!object)
+        if (!object) {
             return nullptr;
+        }
         const Key key = KeyOf(object);
-        if (auto existing = Find(key))
+        if (auto existing = Find(key)) {
             return std::static_pointer_cast<Interface>(existing);
+        }
         if (const auto* wrapper = dynamic_cast<const CWrapper*>(object.get());
-            wrapper && wrapper->BelongsTo(*this))
+            wrapper && wrapper->BelongsTo(*this)) {
             return object;
+        }
         return std::static_pointer_cast<Interface>(
             Keep(key, MakeForwarder(shared_from_this(), object)));
     }

@@ -27,8 +27,9 @@ std::uint32_t CDevice::FreeFlashBytes() const {
 std::uint32_t CDevice::FreeBytes(std::int32_t location, std::uint32_t totalBytes) const {
     std::int64_t usedBytes = 0;
     for (const auto& file : *m_files) {
-        if (file.location == location)
+        if (file.location == location) {
             usedBytes += file.sizeBytes;
+        }
     }
     // Made-up sizes may be negative or exceed the memory; the answer stays a possible one.
     return static_cast<std::uint32_t>(
@@ -73,8 +74,9 @@ void CDevice::RaiseEvent3(std::int32_t first, std::int32_t second) {
 
 template <class Raise>
 void CDevice::RaiseToAll(const Raise& raise) {
-    if (const auto events = m_events.lock())
+    if (const auto events = m_events.lock()) {
         events->RaiseToAll(raise);
+    }
 }
 
 }

@@ -27,28 +27,35 @@ std::string LastSystemError() { return std::error_code(errno, std::generic_categ
 void ExpectDeviceFolder(const Path& folder) {
     std::error_code error;
     const auto status = std::filesystem::status(folder, error);
-    if (status.type() == std::filesystem::file_type::not_found)
+    if (status.type() == std::filesystem::file_type::not_found) {
         throw DescriptionError{folder, 0, "there is no such folder"};
-    if (error)
+    }
+    if (error) {
         RefuseAsUnreadable(folder, error.message());
-    if (!std::filesystem::is_directory(status))
+    }
+    if (!std::filesystem::is_directory(status)) {
         throw DescriptionError{folder, 0, "is not a folder"};
+    }
     const auto description = std::filesystem::status(folder / kDescriptionName, error);
-    if (description.type() == std::filesystem::file_type::not_found)
+    if (description.type() == std::filesystem::file_type::not_found) {
         throw DescriptionError{folder, 0, "is not a device: there is no device.json in it"};
-    if (error)
+    }
+    if (error) {
         RefuseAsUnreadable(folder / kDescriptionName, error.message());
+    }
 }
 
 std::string ReadText(const Path& path) {
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);
-    if (error)
+    if (error) {
         RefuseAsUnreadable(path, error.message());
+    }
     std::ifstream stream(path, std::ios::binary);
     std::string text(size, '\0');
-    if (!stream.read(text.data(), static_cast<std::streamsize>(size)))
+    if (!stream.read(text.data(), static_cast<std::streamsize>(size))) {
         RefuseAsUnreadable(path, LastSystemError());
+    }
     return text;
 }
 
@@ -56,10 +63,12 @@ std::string ReadText(const Path& path) {
 /// place, which may be anything.
 std::string ReasonOf(const nlohmann::json::parse_error& error) {
     std::string reason = error.what();
-    if (const auto place = reason.find(", column "); place != std::string::npos)
+    if (const auto place = reason.find(", column "); place != std::string::npos) {
         reason.erase(0, reason.find(": ", place) + 2);
-    if (const auto context = reason.find("; last read: "); context != std::string::npos)
+    }
+    if (const auto context = reason.find("; last read: "); context != std::string::npos) {
         reason.erase(context, reason.rfind("; expected ") - context);
+    }
     return "is not valid JSON: " + reason;
 }
 
@@ -100,8 +109,9 @@ std::variant<DeviceDescription, DescriptionError> ReadDeviceFolder(const Path& f
 
 std::variant<std::shared_ptr<CDevice>, DescriptionError> OpenDevice(const Path& folder) {
     auto result = ReadDeviceFolder(folder);
-    if (const auto* error = std::get_if<DescriptionError>(&result))
+    if (const auto* error = std::get_if<DescriptionError>(&result)) {
         return *error;
+    }
     return CDevice::Create(std::get<DeviceDescription>(std::move(result)));
 }
 
@@ -111,8 +121,9 @@ std::vector<Path> ListDevices(const Path& root) {
     std::filesystem::directory_iterator entry(root, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::error_code ignored;
-        if (std::filesystem::exists(entry->path() / kDescriptionName, ignored))
+        if (std::filesystem::exists(entry->path() / kDescriptionName, ignored)) {
             devices.push_back(entry->path());
+        }
     }
     std::sort(devices.begin(), devices.end());
     return devices;

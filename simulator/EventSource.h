@@ -29,8 +29,9 @@ public:
     /// kInvalidPointer for a null sink.
     contract::Status Subscribe(const std::shared_ptr<Events>& sink,
                                std::uint32_t& cookie) override {
-        if (!sink)
+        if (!sink) {
             return Fail(contract::kInvalidPointer, "There is no event sink to subscribe");
+        }
         m_subscriptions.push_back({++m_lastCookie, sink});
         return Give(m_lastCookie, cookie);
     }
@@ -38,8 +39,9 @@ public:
     /// kNoSuchCookie for a cookie that names no subscription.
     contract::Status Unsubscribe(std::uint32_t cookie) override {
         const auto found = Find(cookie);
-        if (found == m_subscriptions.end())
+        if (found == m_subscriptions.end()) {
             return Fail(kNoSuchCookie, "There is no such event subscription");
+        }
         // The sink is released last, when this object is in order: its end may reach back here.
         const auto sink = std::move(found->sink);
         m_subscriptions.erase(found);
@@ -51,8 +53,9 @@ public:
     void RaiseToAll(const Raise& raise) {
         const auto subscriptions = m_subscriptions;
         for (const auto& subscription : subscriptions) {
-            if (Find(subscription.cookie) != m_subscriptions.end())
+            if (Find(subscription.cookie) != m_subscriptions.end()) {
                 static_cast<void>(raise(*subscription.sink));
+            }
         }
     }
 

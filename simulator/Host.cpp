@@ -20,8 +20,9 @@ CHost::CHost(KnobOptions knobs)
       m_contextToHand(m_context),
       m_accessToHand(std::make_shared<CHostSubsystemAccess>(m_slot, m_product)),
       m_connectionToHand(m_connection) {
-    if (!m_knobOptions.areApplied)
+    if (!m_knobOptions.areApplied) {
         return;
+    }
     const interception::CInterception interception(m_knobSwitch);
     m_contextToHand = interception.Wrap(m_contextToHand);
     m_accessToHand = interception.Wrap(m_accessToHand);
@@ -31,8 +32,9 @@ CHost::CHost(KnobOptions knobs)
 CHost::~CHost() = default;
 
 void CHost::InsertDevice(std::shared_ptr<CDevice> device) {
-    if (m_knobOptions.areApplied)
+    if (m_knobOptions.areApplied) {
         m_knobs = CKnobs::Create(device, m_slot, m_connection, m_knobOptions.sleep);
+    }
     m_knobSwitch->Select(m_knobs);
     m_slot->Insert(std::move(device));
 }
@@ -46,8 +48,9 @@ void CHost::RemoveDevice() {
 std::shared_ptr<CDevice> CHost::Device() const { return m_slot->Device(); }
 
 void CHost::BringBackLostDevice() {
-    if (const auto knobs = m_knobs)
+    if (const auto knobs = m_knobs) {
         knobs->BringBack();
+    }
 }
 
 void CHost::RaiseConnectionState(contract::Status status, std::int32_t state) {

@@ -5,10 +5,12 @@
 namespace simulator {
 
 void CDeviceSlot::Insert(std::shared_ptr<CDevice> device) {
-    if (m_device)
+    if (m_device) {
         m_device->SendEventsTo({});
-    if (device)
+    }
+    if (device) {
         device->SendEventsTo(m_events);
+    }
     m_device = std::move(device);
 }
 

@@ -18,8 +18,9 @@ contract::Status CProgrammingDeviceSubsystem::get_ProgrammingDeviceControl(
 contract::Status
 CProgrammingDeviceSubsystem::GetKrx10Control(std::shared_ptr<contract::IKrx10Control>& control) {
     return m_slot->WithDevice([&](CDevice& device) {
-        if (!device.IsNetworked())
+        if (!device.IsNetworked()) {
             return Fail(contract::kNoSuchInterface, "This device has no network control");
+        }
         return Give(m_krx10Control, control);
     });
 }

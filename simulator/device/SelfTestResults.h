@@ -13,8 +13,9 @@ public:
     /// kInvalidArgument for a test that does not exist.
     contract::Status GetResult(contract::SelfTest test, std::int32_t& code) override {
         const auto number = static_cast<std::int32_t>(test);
-        if (number < 1 || number > contract::kSelfTestCount)
+        if (number < 1 || number > contract::kSelfTestCount) {
             return Fail(kInvalidArgument, "There is no self-test " + std::to_string(number));
+        }
         const auto found = m_codes.find(test);
         return Give(found == m_codes.end() ? kTestNotRun : found->second, code);
     }

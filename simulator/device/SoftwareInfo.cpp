@@ -7,8 +7,9 @@ namespace simulator {
 namespace {
 
 std::shared_ptr<contract::IKrx20SwInfo> MakeKrx20SwInfo(const DeviceDescription& description) {
-    if (description.type != kKrx20 && description.type != kKrx21)
+    if (description.type != kKrx20 && description.type != kKrx21) {
         return nullptr;
+    }
     return std::make_shared<CKrx20SwInfo>(description.software);
 }
 
@@ -19,8 +20,9 @@ CSoftwareInfo::CSoftwareInfo(const CDevice& device)
       m_krx20Info(MakeKrx20SwInfo(device.Description())) {}
 
 contract::Status CSoftwareInfo::QueryKrx20SwInfo(std::shared_ptr<contract::IKrx20SwInfo>& info) {
-    if (!m_krx20Info)
+    if (!m_krx20Info) {
         return Fail(contract::kNoSuchInterface, "This device has no KRX-20 software versions");
+    }
     return Give(m_krx20Info, info);
 }
 

@@ -15,8 +15,9 @@ std::optional<std::uint8_t> TakeByte(std::string_view& text) {
     std::uint8_t byte = 0;
     const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), byte);
     const auto length = static_cast<std::size_t>(rest - text.data());
-    if (error != std::errc() || length > 3)
+    if (error != std::errc() || length > 3) {
         return std::nullopt;
+    }
     text.remove_prefix(length);
     return byte;
 }
@@ -27,17 +28,20 @@ std::optional<contract::AddressValue> ParseAddress(std::string_view text) {
     std::array<std::uint8_t, 4> bytes{};
     for (std::size_t index = 0; index < bytes.size(); ++index) {
         if (index > 0) {
-            if (!text.starts_with('.'))
+            if (!text.starts_with('.')) {
                 return std::nullopt;
+            }
             text.remove_prefix(1);
         }
         const auto byte = TakeByte(text);
-        if (!byte)
+        if (!byte) {
             return std::nullopt;
+        }
         bytes[index] = *byte;
     }
-    if (!text.empty())
+    if (!text.empty()) {
         return std::nullopt;
+    }
     return std::bit_cast<contract::AddressValue>(bytes);
 }
 

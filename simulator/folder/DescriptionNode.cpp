@@ -9,8 +9,9 @@ namespace {
 
 std::string ListOf(std::span<const NamedValue> names) {
     std::string list;
-    for (const auto& name : names)
+    for (const auto& name : names) {
         list += (list.empty() ? "" : ", ") + QuoteForMessage(name.name);
+    }
     return list;
 }
 
@@ -18,16 +19,18 @@ std::string ListOf(std::span<const NamedValue> names) {
 
 CDescriptionNode CDescriptionNode::Member(const std::string& key) const {
     const auto member = OptionalMember(key);
-    if (!member)
+    if (!member) {
         Child(key, *m_value).Refuse("is missing");
+    }
     return *member;
 }
 
 std::optional<CDescriptionNode> CDescriptionNode::OptionalMember(const std::string& key) const {
     ExpectObject();
     const auto found = m_value->find(key);
-    if (found == m_value->end())
+    if (found == m_value->end()) {
         return std::nullopt;
+    }
     return Child(key, *found);
 }
 
@@ -38,35 +41,41 @@ std::string CDescriptionNode::OptionalText(const std::string& key) const {
 
 void CDescriptionNode::ExpectKeys(std::initializer_list<std::string_view> keys) const {
     ForEachMember([&](const std::string& key, const CDescriptionNode& member) {
-        if (std::find(keys.begin(), keys.end(), key) == keys.end())
+        if (std::find(keys.begin(), keys.end(), key) == keys.end()) {
             member.Refuse("is not a known key");
+        }
     });
 }
 
 void CDescriptionNode::ForEachMember(
     const std::function<void(const std::string&, const CDescriptionNode&)>& visit) const {
     ExpectObject();
-    for (const auto& [key, value] : m_value->items())
+    for (const auto& [key, value] : m_value->items()) {
         visit(key, Child(key, value));
+    }
 }
 
 void CDescriptionNode::ForEachElement(
     const std::function<void(const CDescriptionNode&)>& visit) const {
-    if (!m_value->is_array())
+    if (!m_value->is_array()) {
         Refuse("must be a list");
-    for (std::size_t index = 0; index < m_value->size(); ++index)
+    }
+    for (std::size_t index = 0; index < m_value->size(); ++index) {
         visit(Child("[" + std::to_string(index) + "]", (*m_value)[index]));
+    }
 }
 
 std::string CDescriptionNode::Text() const {
-    if (!m_value->is_string())
+    if (!m_value->is_string()) {
         Refuse("must be a text");
+    }
     return m_value->get<std::string>();
 }
 
 bool CDescriptionNode::Flag() const {
-    if (!m_value->is_boolean())
+    if (!m_value->is_boolean()) {
         Refuse("must be true or false");
+    }
     return m_value->get<bool>();
 }
 
@@ -76,8 +85,9 @@ std::int64_t CDescriptionNode::WholeNumber(std::int64_t lowest, std::int64_t hig
                       m_value->get<std::uint64_t>() <= static_cast<std::uint64_t>(highest);
     if (m_value->is_number_integer() && fits) {
         const auto number = m_value->get<std::int64_t>();
-        if (lowest <= number && number <= highest)
+        if (lowest <= number && number <= highest) {
             return number;
+        }
     }
     Refuse("must be a whole number from " + std::to_string(lowest) + " to " +
            std::to_string(highest));
@@ -85,12 +95,15 @@ std::int64_t CDescriptionNode::WholeNumber(std::int64_t lowest, std::int64_t hig
 
 std::int64_t CDescriptionNode::NameOrNumber(std::span<const NamedValue> names, std::int64_t lowest,
                                             std::int64_t highest) const {
-    if (m_value->is_number())
+    if (m_value->is_number()) {
         return WholeNumber(lowest, highest);
+    }
     if (m_value->is_string()) {
-        for (const auto& [name, value] : names)
-            if (m_value->get_ref<const std::string&>() == name)
+        for (const auto& [name, value] : names) {
+            if (m_value->get_ref<const std::string&>() == name) {
                 return value;
+            }
+        }
     }
     Refuse("must be one of " + ListOf(names) + " or a whole number");
 }
@@ -113,8 +126,9 @@ CDescriptionNode CDescriptionNode::Child(const std::string& step,
 }
 
 void CDescriptionNode::ExpectObject() const {
-    if (!m_value->is_object())
+    if (!m_value->is_object()) {
         Refuse("must be an object");
+    }
 }
 
 }

@@ -83,8 +83,9 @@ SoftwareVersions ReadSoftware(const CDescriptionNode& node) {
     node.ForEachMember([&](const std::string& key, const CDescriptionNode& member) {
         const auto* version = std::find_if(std::begin(kVersions), std::end(kVersions),
                                            [&](const auto& entry) { return entry.first == key; });
-        if (version == std::end(kVersions))
+        if (version == std::end(kVersions)) {
             member.Refuse("is not a known key");
+        }
         versions.*version->second = member.Text();
     });
     return versions;
@@ -95,8 +96,9 @@ std::map<SelfTest, std::int32_t> ReadSelfTests(const CDescriptionNode& node) {
     node.ForEachMember([&](const std::string& key, const CDescriptionNode& member) {
         const auto* test = std::find_if(std::begin(kSelfTests), std::end(kSelfTests),
                                         [&](const auto& entry) { return entry.first == key; });
-        if (test == std::end(kSelfTests))
+        if (test == std::end(kSelfTests)) {
             member.Refuse("is not a known self-test");
+        }
         results[test->second] = member.NameOrNumber<std::int32_t>(kResults);
     });
     return results;
@@ -105,8 +107,9 @@ std::map<SelfTest, std::int32_t> ReadSelfTests(const CDescriptionNode& node) {
 contract::AddressValue ReadAddress(const CDescriptionNode& node) {
     const auto text = node.Text();
     const auto address = ParseAddress(text);
-    if (!address && !text.empty())
+    if (!address && !text.empty()) {
         node.Refuse("must be an IPv4 address such as \"192.168.0.1\", or empty");
+    }
     return address.value_or(0);
 }
 
@@ -121,8 +124,9 @@ NetworkSettings ReadNetwork(const CDescriptionNode& node) {
     settings.useDhcp = node.Member("useDhcp").Flag();
     settings.ipAddress = node.OptionalText("ipAddress");
     settings.ipAddressValue = ReadOptionalAddress(node, "ipAddress");
-    if (settings.useDhcp)
+    if (settings.useDhcp) {
         settings.ipAddressValue = contract::kAddressByDhcp;
+    }
     settings.subnetMask = ReadOptionalAddress(node, "subnetMask");
     settings.gateway = ReadOptionalAddress(node, "gateway");
     settings.description = node.OptionalText("description");
@@ -154,14 +158,18 @@ DeviceDescription ReadDescription(const CDescriptionNode& root,
                      "selfTests", "network", "pcCard", "files", "faults", "latency", "loss"});
     DeviceDescription description;
     ReadIdentity(root, description);
-    if (const auto software = root.OptionalMember("software"))
+    if (const auto software = root.OptionalMember("software")) {
         description.software = ReadSoftware(*software);
-    if (const auto selfTests = root.OptionalMember("selfTests"))
+    }
+    if (const auto selfTests = root.OptionalMember("selfTests")) {
         description.selfTests = ReadSelfTests(*selfTests);
-    if (const auto network = root.OptionalMember("network"))
+    }
+    if (const auto network = root.OptionalMember("network")) {
         description.network = ReadNetwork(*network);
-    if (const auto pcCard = root.OptionalMember("pcCard"))
+    }
+    if (const auto pcCard = root.OptionalMember("pcCard")) {
         description.pcCard = ReadPcCard(*pcCard);
+    }
     ReadKnobs(root, description);
     description.files = ReadStoredFiles(root.Member("files"), folder);
     return description;

@@ -96,8 +96,9 @@ private:
 };
 
 JsonPath CLineRecorder::NextPath() {
-    if (m_open.empty())
+    if (m_open.empty()) {
         return {};
+    }
     auto& container = m_open.back();
     auto path = container.path;
     path.push_back(container.isArray ? "[" + std::to_string(container.index++) + "]"
@@ -147,8 +148,9 @@ std::size_t CJsonLines::LineOf(const JsonPath& path) const {
 
 std::string NameOf(const JsonPath& path) {
     std::string name;
-    for (const auto& step : path)
+    for (const auto& step : path) {
         name += (name.empty() || step.starts_with('[') ? "" : ".") + step;
+    }
     return name;
 }
 

@@ -13,8 +13,9 @@ constexpr std::int64_t kLongestLatencyMs = 60000;
 
 const interception::Operation& ReadOperation(const CDescriptionNode& node) {
     const auto* operation = interception::FindOperation(node.Member("operation").Text());
-    if (!operation)
+    if (!operation) {
         node.Member("operation").Refuse("is not the name of an operation");
+    }
     return *operation;
 }
 
@@ -29,12 +30,14 @@ contract::Status ReadFailure(const CDescriptionNode& node) {
     const bool hasPrefix = text.starts_with("0x");
     if (hasPrefix) {
         const auto [rest, error] = std::from_chars(text.data() + 2, end, bits, 16);
-        if (error != std::errc() || rest != end)
+        if (error != std::errc() || rest != end) {
             bits = 0;
+        }
     }
     const auto status = contract::Status::FromBits(bits);
-    if (!status.IsFailure())
+    if (!status.IsFailure()) {
         node.Refuse("must be a failure code such as \"0x80004005\" (0x80000000 to 0xFFFFFFFF)");
+    }
     return status;
 }
 
@@ -46,12 +49,13 @@ Fault ReadFault(const CDescriptionNode& node) {
     fault.call = ReadCallNumber(node);
     const auto null = node.OptionalMember("null");
     fault.succeedsWithNull = null && null->Flag();
-    if (!fault.succeedsWithNull)
+    if (!fault.succeedsWithNull) {
         fault.status = ReadFailure(node.Member("status"));
-    else if (operation.delivers != interception::Delivers::Object)
+    } else if (operation.delivers != interception::Delivers::Object) {
         null->Refuse("is for operations that deliver an object");
-    else if (const auto status = node.OptionalMember("status"))
+    } else if (const auto status = node.OptionalMember("status")) {
         status->Refuse("has no place beside \"null\"");
+    }
     fault.description = node.OptionalText("description");
     return fault;
 }
@@ -62,12 +66,14 @@ Latency ReadLatency(const CDescriptionNode& node) {
         return static_cast<std::uint32_t>(time.WholeNumber(0, kLongestLatencyMs));
     };
     Latency latency;
-    if (const auto time = node.OptionalMember("defaultMs"))
+    if (const auto time = node.OptionalMember("defaultMs")) {
         latency.defaultMs = readTime(*time);
+    }
     if (const auto operations = node.OptionalMember("operationsMs")) {
         operations->ForEachMember([&](const std::string& name, const CDescriptionNode& time) {
-            if (!interception::FindOperation(name))
+            if (!interception::FindOperation(name)) {
                 time.Refuse("is not the name of an operation");
+            }
             latency.operationsMs[name] = readTime(time);
         });
     }
@@ -79,8 +85,9 @@ DeviceLoss ReadLoss(const CDescriptionNode& node) {
     DeviceLoss loss;
     loss.operation = ReadOperation(node).name;
     loss.call = ReadCallNumber(node);
-    if (const auto calls = node.OptionalMember("returnsAfterCalls"))
+    if (const auto calls = node.OptionalMember("returnsAfterCalls")) {
         loss.returnsAfterCalls = calls->WholeNumberOf<std::uint32_t>();
+    }
     return loss;
 }
 
@@ -91,10 +98,12 @@ void ReadKnobs(const CDescriptionNode& root, DeviceDescription& description) {
         faults->ForEachElement(
             [&](const auto& fault) { description.faults.push_back(ReadFault(fault)); });
     }
-    if (const auto latency = root.OptionalMember("latency"))
+    if (const auto latency = root.OptionalMember("latency")) {
         description.latency = ReadLatency(*latency);
-    if (const auto loss = root.OptionalMember("loss"))
+    }
+    if (const auto loss = root.OptionalMember("loss")) {
         description.loss = ReadLoss(*loss);
+    }
 }
 
 }

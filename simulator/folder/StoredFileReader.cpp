@@ -45,18 +45,23 @@ std::int32_t ReadSize(const CDescriptionNode& node, const Path& folder, const st
     };
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
-    if (status.type() == std::filesystem::file_type::not_found)
+    if (status.type() == std::filesystem::file_type::not_found) {
         refuse("is missing");
-    if (error)
+    }
+    if (error) {
         refuse("cannot be read: " + error.message());
-    if (!std::filesystem::is_regular_file(status))
+    }
+    if (!std::filesystem::is_regular_file(status)) {
         refuse("is not a plain file");
+    }
     const auto size = std::filesystem::file_size(path, error);
-    if (error || !std::ifstream(path, std::ios::binary))
+    if (error || !std::ifstream(path, std::ios::binary)) {
         refuse("cannot be read: " +
                (error ? error : std::error_code(errno, std::generic_category())).message());
-    if (size > static_cast<std::uintmax_t>(std::numeric_limits<std::int32_t>::max()))
+    }
+    if (size > static_cast<std::uintmax_t>(std::numeric_limits<std::int32_t>::max())) {
         refuse("is larger than 2147483647 bytes");
+    }
     return static_cast<std::int32_t>(size);
 }
 
@@ -68,14 +73,16 @@ StoredFile ReadStoredFile(const CDescriptionNode& node) {
     file.id = node.Member("id").WholeNumberOf<std::int32_t>();
     file.version = node.OptionalText("version");
     file.location = node.Member("location").NameOrNumber<std::int32_t>(kLocations);
-    if (const auto generation = node.OptionalMember("generation"))
+    if (const auto generation = node.OptionalMember("generation")) {
         file.generation = generation->NameOrNumber<std::uint32_t>(kGenerations);
+    }
     const auto content = node.OptionalMember("content");
     file.content = content ? content->Text() : file.name;
-    if (!IsPlainFileName(file.content))
+    if (!IsPlainFileName(file.content)) {
         (content ? *content : node.Member("name"))
             .Refuse(content ? "must be a plain file name"
                             : "is no plain file name, so that \"content\" must give one");
+    }
     return file;
 }
 
@@ -88,10 +95,12 @@ std::vector<StoredFile> ReadStoredFiles(const CDescriptionNode& list, const Path
     list.ForEachElement([&](const CDescriptionNode& node) {
         auto file = ReadStoredFile(node);
         // The panel addresses a file by its type and the low 16 bits of its identifier.
-        if (const auto* first = addresses.Claim({file.type, file.id & 0xFFFF}, node.Name()))
+        if (const auto* first = addresses.Claim({file.type, file.id & 0xFFFF}, node.Name())) {
             node.Refuse("has the type and the identifier (low 16 bits) of \"" + *first + '"');
-        if (const auto* first = contents.Claim(file.content, node.Name()))
+        }
+        if (const auto* first = contents.Claim(file.content, node.Name())) {
             node.Refuse("has the content of \"" + *first + '"');
+        }
         file.sizeBytes = ReadSize(node, folder, file.content);
         files.push_back(std::move(file));
     });

@@ -16,10 +16,12 @@ CHostSubsystemAccess::CHostSubsystemAccess(std::shared_ptr<CDeviceSlot> slot,
 contract::Status
 CHostSubsystemAccess::GetSubsystem(const contract::Guid& identifier,
                                    std::shared_ptr<contract::ISubsystem>& subsystem) {
-    if (identifier == contract::kProgrammingDeviceSubsystem)
+    if (identifier == contract::kProgrammingDeviceSubsystem) {
         return Give(m_programming, subsystem);
-    if (identifier == contract::kProductInformationSubsystem)
+    }
+    if (identifier == contract::kProductInformationSubsystem) {
         return Give(m_product, subsystem);
+    }
     return Fail(kInvalidArgument, "This host has no subsystem of that identifier");
 }
 

@@ -13,11 +13,13 @@ std::shared_ptr<CKnobs> CKnobs::Create(const std::shared_ptr<CDevice>& device,
                                        interception::CLatency::Sleep sleep) {
     const auto& description = device->Description();
     if (description.faults.empty() && !description.loss && description.latency.defaultMs == 0 &&
-        description.latency.operationsMs.empty())
+        description.latency.operationsMs.empty()) {
         return nullptr;
+    }
     const auto knobs = std::make_shared<CKnobs>(device, slot, connection, std::move(sleep));
-    if (description.loss)
+    if (description.loss) {
         knobs->AddLoss(*description.loss);
+    }
     return knobs;
 }
 
@@ -28,8 +30,9 @@ CKnobs::CKnobs(std::shared_ptr<CDevice> device, std::weak_ptr<CDeviceSlot> slot,
       m_connection(std::move(connection)),
       m_latency(std::move(sleep)) {
     SetLatency(m_device->Description().latency);
-    for (const auto& fault : m_device->Description().faults)
+    for (const auto& fault : m_device->Description().faults) {
         AddFault(fault);
+    }
 }
 
 contract::Status CKnobs::Call(const interception::Operation& operation,
@@ -39,19 +42,22 @@ contract::Status CKnobs::Call(const interception::Operation& operation,
 
 void CKnobs::SetLatency(const Latency& latency) {
     for (const auto& operation : interception::Operations()) {
-        if (operation.provider == interception::Provider::Device)
+        if (operation.provider == interception::Provider::Device) {
             m_latency.Set(operation.name, std::chrono::milliseconds(latency.defaultMs));
+        }
     }
-    for (const auto& [operation, timeMs] : latency.operationsMs)
+    for (const auto& [operation, timeMs] : latency.operationsMs) {
         m_latency.Set(operation, std::chrono::milliseconds(timeMs));
+    }
 }
 
 void CKnobs::AddFault(const Fault& fault) {
     const interception::NthCall call{fault.call, fault.operation};
-    if (fault.succeedsWithNull)
+    if (fault.succeedsWithNull) {
         m_faults.DeliverNull(call);
-    else
+    } else {
         m_faults.Fail(call, {fault.status, fault.description});
+    }
 }
 
 void CKnobs::AddLoss(const DeviceLoss& loss) {
@@ -64,8 +70,9 @@ void CKnobs::AddLoss(const DeviceLoss& loss) {
 void CKnobs::Lose(const DeviceLoss& loss) {
     const auto slot = m_slot.lock();
     const auto connection = m_connection.lock();
-    if (!slot || !connection || slot->Device() != m_device)
+    if (!slot || !connection || slot->Device() != m_device) {
         return;
+    }
     m_isLost = true;
     if (loss.returnsAfterCalls) {
         m_faults.RunBefore({m_faults.Calls() + *loss.returnsAfterCalls + 1},
@@ -78,8 +85,9 @@ void CKnobs::Lose(const DeviceLoss& loss) {
 void CKnobs::BringBack() {
     const auto slot = m_slot.lock();
     const auto connection = m_connection.lock();
-    if (!slot || !connection || !std::exchange(m_isLost, false))
+    if (!slot || !connection || !std::exchange(m_isLost, false)) {
         return;
+    }
     slot->Insert(m_device);
     connection->RaiseState(contract::kSuccess, contract::kConnectionDeviceReady);
 }

@@ -56,8 +56,9 @@ public:
     }
 
     void DeliverAll() {
-        for (const auto& deliver : std::exchange(m_kept, {}))
+        for (const auto& deliver : std::exchange(m_kept, {})) {
             EXPECT_EQ(deliver(), kSuccess);
+        }
     }
 
 private:

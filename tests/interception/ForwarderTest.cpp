@@ -171,15 +171,17 @@ std::vector<NamedOperation> OperationsThatDeliver(Delivers delivers) {
 
 std::vector<std::string> Names(const std::vector<NamedOperation>& operations) {
     std::vector<std::string> names;
-    for (const NamedOperation& operation : operations)
+    for (const NamedOperation& operation : operations) {
         names.push_back(operation.name);
+    }
     return names;
 }
 
 std::vector<std::string> Names(std::span<const Operation> operations) {
     std::vector<std::string> names;
-    for (const Operation& operation : operations)
+    for (const Operation& operation : operations) {
         names.emplace_back(operation.name);
+    }
     return names;
 }
 

@@ -127,13 +127,15 @@ TEST_F(InterceptionTest, WrapOnManyThreadsMakesOneWrapper) {
     std::atomic<int> ready = 0;
     {
         std::vector<std::jthread> threads;
-        for (auto& wrapper : wrappers)
+        for (auto& wrapper : wrappers) {
             threads.emplace_back([&] {
                 ++ready;
-                while (ready < kThreads)
+                while (ready < kThreads) {
                     std::this_thread::yield();
+                }
                 wrapper = m_interception.Wrap<IFileInfo>(target);
             });
+        }
     }
     EXPECT_THAT(wrappers, testing::Each(wrappers.front()));
     EXPECT_EQ(m_interception.LiveWrappers(), 1u);
@@ -144,9 +146,11 @@ TEST_F(InterceptionTest, WrapAndReleaseOnManyThreadsLeavesNothing) {
     const auto target = MakeTarget<IHostViewControl>();
     std::atomic<int> failures = 0;
     const auto useIt = [&] {
-        for (int round = 0; round < kRounds; ++round)
-            if (!m_interception.Wrap<IHostViewControl>(target))
+        for (int round = 0; round < kRounds; ++round) {
+            if (!m_interception.Wrap<IHostViewControl>(target)) {
                 ++failures;
+            }
+        }
     };
     { const std::array threads{std::jthread(useIt), std::jthread(useIt), std::jthread(useIt)}; }
     EXPECT_EQ(failures, 0);

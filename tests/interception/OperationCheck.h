@@ -42,26 +42,30 @@ public:
 private:
     template <class Owner, class... Parameters>
     static Delivers DeliversOf(contract::Status (Owner::*)(Parameters...)) {
-        if ((... || (kIsResult<Parameters> && kIsReference<std::remove_cvref_t<Parameters>>)))
+        if ((... || (kIsResult<Parameters> && kIsReference<std::remove_cvref_t<Parameters>>))) {
             return Delivers::Object;
+        }
         return (... || kIsResult<Parameters>) ? Delivers::Value : Delivers::Nothing;
     }
 
     template <class Parameter>
     static auto Given(int seed) {
         using T = std::remove_cvref_t<Parameter>;
-        if constexpr (kIsReference<T>)
+        if constexpr (kIsReference<T>) {
             return T(MakeTarget<typename T::element_type>());
-        else
+        } else {
             return Sample<T>(seed);
+        }
     }
 
     /// How `value` looks on the other side of the interception.
     template <class T>
     static T Across(const CInterception& interception, const T& value) {
-        if constexpr (kIsReference<T>)
-            if constexpr (Wrappable<typename T::element_type>)
+        if constexpr (kIsReference<T>) {
+            if constexpr (Wrappable<typename T::element_type>) {
                 return interception.Wrap(value);
+            }
+        }
         return value;
     }
 
@@ -85,9 +89,11 @@ private:
         Values given{Given<Parameters>(index)...};
         const Values offered{Given<Parameters>(kDeliveredSeed + index)...};
         target->exchange.status = answer;
-        if constexpr (sizeof...(Parameters) > 0)
-            if constexpr (kIsReference<std::tuple_element_t<sizeof...(Parameters) - 1, Values>>)
+        if constexpr (sizeof...(Parameters) > 0) {
+            if constexpr (kIsReference<std::tuple_element_t<sizeof...(Parameters) - 1, Values>>) {
                 target->exchange.object = std::get<sizeof...(Parameters) - 1>(offered);
+            }
+        }
         // Held, so that the wrappers seen during the call have the same address as these.
         const Values givenAcross{Across(interception, std::get<index>(given))...};
         const Values offeredAcross{Across(interception, std::get<index>(offered))...};

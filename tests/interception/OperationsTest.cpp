@@ -10,8 +10,9 @@ namespace {
 
 std::set<std::string_view> DistinctNames(std::span<const Operation> table) {
     std::set<std::string_view> names;
-    for (const Operation& operation : table)
+    for (const Operation& operation : table) {
         names.insert(operation.name);
+    }
     return names;
 }
 

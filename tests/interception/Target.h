@@ -64,18 +64,20 @@ private:
 
     template <class Parameter, class Argument>
     void Take(Argument& argument, std::string& seen, int seed) {
-        if constexpr (!kIsResult<Parameter>)
+        if constexpr (!kIsResult<Parameter>) {
             seen += Describe(argument);
-        else if (exchange.status.IsSuccess())
+        } else if (exchange.status.IsSuccess()) {
             Give(argument, seed);
+        }
     }
 
     template <class Result>
     void Give(Result& result, int seed) {
-        if constexpr (kIsReference<Result>)
+        if constexpr (kIsReference<Result>) {
             result = std::static_pointer_cast<typename Result::element_type>(exchange.object);
-        else
+        } else {
             result = Sample<Result>(seed);
+        }
     }
 };
 

@@ -75,8 +75,9 @@ protected:
             snapshot;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(m_folder.Path())) {
             std::ostringstream content;
-            if (entry.is_regular_file())
+            if (entry.is_regular_file()) {
                 content << std::ifstream(entry.path()).rdbuf();
+            }
             snapshot[entry.path()] = {content.str(), entry.last_write_time()};
         }
         return snapshot;

@@ -118,8 +118,9 @@ TEST_F(DeviceServiceTest, SelfTestsAnswerByTheirCode) {
         return code;
     };
     EXPECT_EQ(codeOf(1), 0);
-    for (std::int32_t test = 2; test <= 20; ++test)
+    for (std::int32_t test = 2; test <= 20; ++test) {
         EXPECT_EQ(codeOf(test), 787) << test;
+    }
     EXPECT_EQ(codeOf(21), 796);
 }
 

@@ -13,8 +13,9 @@ protected:
         const std::string opening = "```json\n";
         const auto begin = text.find(opening);
         const auto end = text.find("```", begin + opening.size());
-        if (begin == std::string::npos || end == std::string::npos)
+        if (begin == std::string::npos || end == std::string::npos) {
             return "";
+        }
         return text.substr(begin + opening.size(), end - begin - opening.size());
     }
 };

@@ -33,8 +33,9 @@ protected:
     template <class Member>
     static auto ValuesOf(const DeviceDescription& device, Member member) {
         std::set<std::int64_t> values;
-        for (const auto& file : device.files)
+        for (const auto& file : device.files) {
             values.insert(file.*member);
+        }
         return values;
     }
 };
@@ -67,20 +68,23 @@ INSTANTIATE_TEST_SUITE_P(, EachSampleTest,
                                          std::pair{"krx-21", kKrx21}));
 
 TEST_F(SamplesTest, OnlyKrx21LacksTheVersionFile) {
-    for (const auto* name : {"krx-8", "krx-8c", "krx-10", "krx-20"})
+    for (const auto* name : {"krx-8", "krx-8c", "krx-10", "krx-20"}) {
         EXPECT_TRUE(HasVersionFile(Read(name))) << name;
+    }
     EXPECT_FALSE(HasVersionFile(Read("krx-21")));
 }
 
 TEST_F(SamplesTest, OnlyKrx10HasFailedTests) {
-    for (const auto* name : {"krx-8", "krx-8c", "krx-20", "krx-21"})
+    for (const auto* name : {"krx-8", "krx-8c", "krx-20", "krx-21"}) {
         EXPECT_FALSE(HasFailedTest(Read(name))) << name;
+    }
     EXPECT_TRUE(HasFailedTest(Read("krx-10")));
 }
 
 TEST_F(SamplesTest, OnlyKrx8cIsInServiceMode) {
-    for (const auto* name : {"krx-8", "krx-10", "krx-20", "krx-21"})
+    for (const auto* name : {"krx-8", "krx-10", "krx-20", "krx-21"}) {
         EXPECT_EQ(Read(name).mode, 1) << name;
+    }
     EXPECT_EQ(Read("krx-8c").mode, 2);
 }
 

@@ -9,8 +9,9 @@ namespace simulator {
 
 CTemporaryFolder::CTemporaryFolder() {
     std::string path = std::filesystem::temp_directory_path() / "simulator-test-XXXXXX";
-    if (!mkdtemp(path.data()))
+    if (!mkdtemp(path.data())) {
         throw std::runtime_error("No temporary folder can be made");
+    }
     m_path = path;
 }
 
