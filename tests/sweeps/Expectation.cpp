@@ -57,7 +57,7 @@ Observation CExpectation::Take() {
     Observation seen = std::exchange(m_seen, {});
     seen.picture = m_picture;
     if (m_picture)
-        seen.log = m_log;
+        seen.log = m_log.Lines();
     if (!m_isGone)
         seen.kept = kept;
     return seen;
@@ -82,15 +82,7 @@ void CExpectation::CreateView() {
     if (m_isReleased)
         return;
     const CEntry entry(*this);
-    m_picture.emplace();
-    for (const panel::ControlId id : kTextControls)
-        m_picture->texts[id] = "";
-    m_picture->texts[panel::kInfoGroup] = "KRX-8 Info";
-    for (const panel::ControlId id : kSwitchedControls)
-        m_picture->enabled[id] = false;
-    for (const panel::ControlId id :
-         {panel::kIpAddressLabel, panel::kIpAddressField, panel::kHelpButton, panel::kCloseButton})
-        m_picture->enabled[id] = true;
+    m_picture = FreshPicture();
     m_isWhole = Call("Context.QueryHostViewControl");
     if (m_picture)
         m_picture->isCloseVisible = m_isWhole;
@@ -163,7 +155,7 @@ void CExpectation::RaiseState(Status status, std::int32_t state) {
         ExpectControlsEnabled(*this, false);
         kept.mode = 0;
     } else if (state == 7) {
-        m_log.clear();
+        m_log.Clear();
         ExpectTypeRead(*this);
     }
 }
@@ -180,12 +172,7 @@ void CExpectation::RaiseMode(std::int32_t mode) {
 void CExpectation::RaiseMessage(const std::string& text, std::uint32_t done, std::uint32_t total) {
     if (m_isGone || !held.hearsDevice)
         return;
-    const auto percent = static_cast<std::uint32_t>(std::uint64_t{done} * 100 / total);
-    if (text == m_lastLine && percent == m_lastPercent)
-        return;
-    m_lastLine = text;
-    m_lastPercent = percent;
-    AppendToLog(text + " " + std::to_string(percent) + "%");
+    m_log.WriteProgress(text, done, total, CanReachLog());
 }
 
 void CExpectation::InsertDevice() {
@@ -302,17 +289,7 @@ void CExpectation::OpenDialog(DialogRows rows) {
     Intrude(Moment::WhileDialogOpen, ++m_dialogs);
 }
 
-void CExpectation::WriteLine(const std::string& text) {
-    if (text == m_lastLine)
-        return;
-    m_lastLine = text;
-    AppendToLog(text);
-}
-
-void CExpectation::AppendToLog(const std::string& line) {
-    if (m_picture && m_isWhole)
-        m_log.push_back(line);
-}
+void CExpectation::WriteLine(const std::string& text) { m_log.WritePlain(text, CanReachLog()); }
 
 void CExpectation::SetText(panel::ControlId id, const std::string& text) {
     // The size fields are the ones that can be reached without an initialised view.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/DeviceDescription.h"
+#include "tests/sweeps/ExpectedLog.h"
 #include "tests/sweeps/Observation.h"
 #include "tests/sweeps/Plan.h"
 #include "tests/sweeps/Stage.h"
@@ -97,6 +98,8 @@ public:
         bool connection = false;
         bool connectionState = false;
         bool hearsConnection = false;
+        /// Known once the call that subscribes has returned.
+        bool connectionCookie = false;
         std::uint64_t attachments = 0;
     } held;
 
@@ -113,7 +116,7 @@ private:
     void Show(const support::Shown& message);
     void ShowPlainBox(const support::Shown& message);
     void OpenBox();
-    void AppendToLog(const std::string& line);
+    bool CanReachLog() const { return m_picture && m_isWhole; }
     void EndPanel();
 
     const simulator::DeviceDescription m_device;
@@ -127,9 +130,7 @@ private:
     Observation m_seen;
     std::optional<Picture> m_picture;
     bool m_isWhole = false;
-    std::vector<std::string> m_log;
-    std::string m_lastLine;
-    std::uint32_t m_lastPercent = 0;
+    CExpectedLog m_log;
     bool m_isInserted = false;
     bool m_isLost = false;
     int m_entries = 0;

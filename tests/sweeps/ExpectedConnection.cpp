@@ -9,8 +9,12 @@ namespace sweeps {
 namespace {
 
 void ExpectConnectionUnsubscribed(CExpectation& panel) {
-    if (panel.CallInTurn({"Connection.QueryBaseObject", "ExtConnectionEvents.FindEventSource",
-                          "ExtConnectionEvents.Unsubscribe"}))
+    const bool hasCookie = std::exchange(panel.held.connectionCookie, false);
+    const bool isAsked =
+        panel.CallInTurn({"Connection.QueryBaseObject", "ExtConnectionEvents.FindEventSource",
+                          "ExtConnectionEvents.Unsubscribe"});
+    // Without the cookie the host is asked in vain.
+    if (isAsked && hasCookie)
         panel.held.hearsConnection = false;
 }
 
@@ -50,10 +54,10 @@ void ExpectAttachment(CExpectation& panel) {
     if (attachment != held.attachments)
         return;
     held.connectionState = hasState;
-    if (panel.CallInTurn({"Connection.QueryBaseObject", "ExtConnectionEvents.FindEventSource"}))
-        static_cast<void>(
-            panel.Call("ExtConnectionEvents.Subscribe", [&] { held.hearsConnection = true; }));
-    if (attachment != held.attachments && held.hearsConnection)
+    held.connectionCookie =
+        panel.CallInTurn({"Connection.QueryBaseObject", "ExtConnectionEvents.FindEventSource"}) &&
+        panel.Call("ExtConnectionEvents.Subscribe", [&] { held.hearsConnection = true; });
+    if (attachment != held.attachments && held.connectionCookie)
         ExpectConnectionUnsubscribed(panel);
 }
 

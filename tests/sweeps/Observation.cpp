@@ -113,6 +113,19 @@ std::string Difference(const CLines& expected, const CLines& seen) {
 
 }
 
+Picture FreshPicture() {
+    Picture picture;
+    for (const panel::ControlId id : kTextControls)
+        picture.texts[id] = "";
+    picture.texts[panel::kInfoGroup] = "KRX-8 Info";
+    for (const panel::ControlId id : kSwitchedControls)
+        picture.enabled[id] = false;
+    for (const panel::ControlId id :
+         {panel::kIpAddressLabel, panel::kIpAddressField, panel::kHelpButton, panel::kCloseButton})
+        picture.enabled[id] = true;
+    return picture;
+}
+
 std::string Difference(const Observation& expected, const Observation& seen) {
     return expected == seen ? "" : Difference(Describe(expected), Describe(seen));
 }

@@ -46,6 +46,9 @@ struct Picture {
     friend bool operator==(const Picture&, const Picture&) = default;
 };
 
+/// A view of which nothing has been changed yet.
+Picture FreshPicture();
+
 /// What the panel remembers of itself and its device.
 struct Kept {
     std::int32_t type = 3;
