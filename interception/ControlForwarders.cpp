@@ -2,6 +2,8 @@
 
 #include "interception/Forwarder.h"
 
+#include <utility>
+
 namespace interception {
 
 using namespace contract;

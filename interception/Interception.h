@@ -7,6 +7,7 @@
 #include <concepts>
 #include <cstddef>
 #include <memory>
+#include <utility>
 
 namespace interception {
 

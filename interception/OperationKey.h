@@ -2,6 +2,8 @@
 
 #include "interception/Operations.h"
 
+#include <cstddef>
+
 namespace interception {
 
 /// How a forwarder treats an operation.

@@ -8,6 +8,7 @@
 #include <mutex>
 #include <typeindex>
 #include <unordered_map>
+#include <utility>
 
 namespace interception {
 

@@ -3,6 +3,8 @@
 #include "contract/device/FileInfo.h"
 #include "simulator/Device.h"
 
+#include <utility>
+
 namespace simulator {
 
 /// One file of a listing. Copies nothing: a listing of a million files makes a million of these.

@@ -2,6 +2,9 @@
 
 #include "simulator/device/FileInfo.h"
 
+#include <cstddef>
+#include <string>
+
 namespace simulator {
 
 contract::Status CFileListing::GetFileInfo(std::int32_t index,

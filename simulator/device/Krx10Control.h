@@ -3,6 +3,8 @@
 #include "contract/device/Krx10Control.h"
 #include "simulator/device/DeviceSlot.h"
 
+#include <utility>
+
 namespace simulator {
 
 /// What the networked devices add, for whichever device is in the slot. kDeviceNotConnected while

@@ -3,6 +3,8 @@
 #include "contract/device/ProgrammingDeviceControl.h"
 #include "simulator/device/DeviceSlot.h"
 
+#include <utility>
+
 namespace simulator {
 
 /// The service's control, for whichever device is in the slot. Every operation but QueryBaseObject

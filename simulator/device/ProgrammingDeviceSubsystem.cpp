@@ -3,6 +3,8 @@
 #include "simulator/device/Krx10Control.h"
 #include "simulator/device/ProgrammingDeviceControl.h"
 
+#include <utility>
+
 namespace simulator {
 
 CProgrammingDeviceSubsystem::CProgrammingDeviceSubsystem(std::shared_ptr<CDeviceSlot> slot)

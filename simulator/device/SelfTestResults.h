@@ -3,6 +3,9 @@
 #include "contract/device/SelfTestResults.h"
 #include "simulator/Device.h"
 
+#include <map>
+#include <string>
+
 namespace simulator {
 
 /// The self-test results of a device's last start.

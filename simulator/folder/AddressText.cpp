@@ -4,7 +4,9 @@
 #include <array>
 #include <bit>
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
+#include <system_error>
 
 namespace simulator {
 

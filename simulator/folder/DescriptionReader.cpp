@@ -5,6 +5,11 @@
 #include "simulator/folder/StoredFileReader.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <map>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace simulator {

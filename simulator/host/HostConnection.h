@@ -6,6 +6,7 @@
 #include "simulator/device/DeviceSlot.h"
 
 #include <memory>
+#include <utility>
 
 namespace simulator {
 
