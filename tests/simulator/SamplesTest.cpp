@@ -50,8 +50,17 @@ TEST_P(EachSampleTest, SampleHoldsFilesOfEveryKind) {
     EXPECT_GE(device.files.size(), 10u);
     EXPECT_EQ(ValuesOf(device, &StoredFile::type), (std::set<std::int64_t>{19, 21, 22}));
     EXPECT_EQ(ValuesOf(device, &StoredFile::generation), (std::set<std::int64_t>{0, 3, 4, 5}));
-    EXPECT_EQ(ValuesOf(device, &StoredFile::location),
-              device.pcCard ? (std::set<std::int64_t>{1, 2, 3}) : (std::set<std::int64_t>{1, 2}));
+    EXPECT_EQ(ValuesOf(device, &StoredFile::location), (std::set<std::int64_t>{1, 2, 3}));
+}
+
+TEST_P(EachSampleTest, SampleHasACardForItsFilesOnOne) {
+    const auto device = Read(GetParam().first);
+    ASSERT_TRUE(device.pcCard);
+    std::int64_t usedBytes = 0;
+    for (const auto& file : device.files) {
+        usedBytes += file.location == kOnPcCard ? file.sizeBytes : 0;
+    }
+    EXPECT_LT(usedBytes, device.pcCard->totalBytes);
 }
 
 TEST_P(EachSampleTest, SampleHasRoomLeft) {
