@@ -88,7 +88,7 @@ struct Fault {
     std::string description;
 };
 
-/// How long calls take, in milliseconds, on top of the computing.
+/// How long the device's operations take, in milliseconds, on top of the computing.
 struct Latency {
     std::uint32_t defaultMs = 0;
     std::map<std::string, std::uint32_t> operationsMs;

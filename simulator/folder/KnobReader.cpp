@@ -3,6 +3,9 @@
 #include "interception/Operations.h"
 
 #include <charconv>
+#include <cstdint>
+#include <string>
+#include <system_error>
 
 namespace simulator {
 
@@ -41,6 +44,17 @@ contract::Status ReadFailure(const CDescriptionNode& node) {
     return status;
 }
 
+void ExpectNullFault(const CDescriptionNode& fault, const interception::Operation& operation) {
+    if (operation.delivers != interception::Delivers::Object) {
+        fault.Member("null").Refuse("is for operations that deliver an object");
+    }
+    for (const auto* key : {"status", "description"}) {
+        if (const auto member = fault.OptionalMember(key)) {
+            member->Refuse("has no place beside \"null\"");
+        }
+    }
+}
+
 Fault ReadFault(const CDescriptionNode& node) {
     node.ExpectKeys({"operation", "call", "status", "description", "null"});
     const auto& operation = ReadOperation(node);
@@ -49,15 +63,25 @@ Fault ReadFault(const CDescriptionNode& node) {
     fault.call = ReadCallNumber(node);
     const auto null = node.OptionalMember("null");
     fault.succeedsWithNull = null && null->Flag();
-    if (!fault.succeedsWithNull) {
-        fault.status = ReadFailure(node.Member("status"));
-    } else if (operation.delivers != interception::Delivers::Object) {
-        null->Refuse("is for operations that deliver an object");
-    } else if (const auto status = node.OptionalMember("status")) {
-        status->Refuse("has no place beside \"null\"");
+    if (fault.succeedsWithNull) {
+        ExpectNullFault(node, operation);
+        return fault;
     }
+    fault.status = ReadFailure(node.Member("status"));
     fault.description = node.OptionalText("description");
     return fault;
+}
+
+/// Latency is for the device: its calls are made where they may take their time. The host answers
+/// on the thread that paints its window, which would stand still.
+void ExpectDeviceOperation(const CDescriptionNode& node, const std::string& name) {
+    const auto* operation = interception::FindOperation(name);
+    if (!operation) {
+        node.Refuse("is not the name of an operation");
+    }
+    if (operation->provider != interception::Provider::Device) {
+        node.Refuse("is not an operation of the device");
+    }
 }
 
 Latency ReadLatency(const CDescriptionNode& node) {
@@ -71,9 +95,7 @@ Latency ReadLatency(const CDescriptionNode& node) {
     }
     if (const auto operations = node.OptionalMember("operationsMs")) {
         operations->ForEachMember([&](const std::string& name, const CDescriptionNode& time) {
-            if (!interception::FindOperation(name)) {
-                time.Refuse("is not the name of an operation");
-            }
+            ExpectDeviceOperation(time, name);
             latency.operationsMs[name] = readTime(time);
         });
     }

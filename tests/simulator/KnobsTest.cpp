@@ -103,11 +103,10 @@ TEST_F(KnobsTest, DefaultLatencyAppliesToDeviceOperations) {
 
 TEST_F(KnobsTest, LatencyOfAnOperationReplacesTheDefault) {
     const auto control = Control();
-    InsertDeviceWithLatency({5, {{kGetHardwareInfo, 70}, {"ConnectionState.IsConnected", 9}}});
+    InsertDeviceWithLatency({5, {{kGetHardwareInfo, 70}, {"HardwareInfo.GetSerialNumber", 9}}});
     const auto info = ObjectOf(*control, &contract::IProgrammingDeviceControl::GetHardwareInfo);
     ValueOf(*info, &contract::IHardwareInfo::GetDeviceType);
-    const auto state = ObjectOf(*m_host.Connection(), &contract::IConnection::QueryConnectionState);
-    ValueOf(*state, &contract::IConnectionState::IsConnected);
+    ValueOf(*info, &contract::IHardwareInfo::GetSerialNumber);
     EXPECT_EQ(m_waits, (std::vector<interception::CLatency::Duration>{
                            milliseconds(70), milliseconds(5), milliseconds(9)}));
 }
