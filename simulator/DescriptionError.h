@@ -12,14 +12,11 @@ struct DescriptionError {
     std::filesystem::path file;
     /// Line in the file, from 1; 0 when the file as a whole is at fault.
     std::size_t line = 0;
-    /// In English, without a full stop.
+    /// In English, without a full stop, on one line.
     std::string reason;
 
-    /// One line for the user: "file:line: reason".
-    std::string Message() const {
-        const auto place = line == 0 ? "" : ":" + std::to_string(line);
-        return file.string() + place + ": " + reason;
-    }
+    /// One line for the user, whatever the file is called: "file:line: reason".
+    std::string Message() const;
 };
 
 }

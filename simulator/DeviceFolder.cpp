@@ -59,41 +59,21 @@ std::string ReadText(const Path& path) {
     return text;
 }
 
-/// What the parser says, without its own name, its notion of the place, and the text around the
-/// place, which may be anything.
-std::string ReasonOf(const nlohmann::json::parse_error& error) {
-    std::string reason = error.what();
-    if (const auto place = reason.find(", column "); place != std::string::npos) {
-        reason.erase(0, reason.find(": ", place) + 2);
+DescriptionDocument Parse(const Path& path, const std::string& text) {
+    CJsonLines lines(text);
+    if (const auto& mistake = lines.Mistake()) {
+        throw DescriptionError{path, mistake->line, mistake->reason};
     }
-    if (const auto context = reason.find("; last read: "); context != std::string::npos) {
-        reason.erase(context, reason.rfind("; expected ") - context);
-    }
-    return "is not valid JSON: " + reason;
-}
-
-nlohmann::json Parse(const Path& path, const std::string& text) {
-    try {
-        return nlohmann::json::parse(text);
-    } catch (const nlohmann::json::parse_error& error) {
-        const auto end =
-            text.begin() +
-            static_cast<std::ptrdiff_t>(std::min(text.size(), error.byte > 0 ? error.byte - 1 : 0));
-        const auto line = 1 + static_cast<std::size_t>(std::count(text.begin(), end, '\n'));
-        throw DescriptionError{path, line, ReasonOf(error)};
-    }
+    // The text has just been found good. Should the parser ever think otherwise, it yields a value
+    // that is no object, which ends in a refusal as well.
+    constexpr bool kThrows = false;
+    return {path, nlohmann::json::parse(text, nullptr, kThrows), std::move(lines)};
 }
 
 DeviceDescription Read(const Path& folder) {
     ExpectDeviceFolder(folder);
     const auto path = folder / kDescriptionName;
-    const auto text = ReadText(path);
-    const DescriptionDocument document{path, Parse(path, text), CJsonLines(text)};
-    if (document.lines.DuplicateLine() != 0) {
-        throw DescriptionError{path, document.lines.DuplicateLine(),
-                               QuoteForMessage(NameOf(document.lines.Duplicate())) +
-                                   " is given twice"};
-    }
+    const auto document = Parse(path, ReadText(path));
     return ReadDescription(CDescriptionNode(document), folder);
 }
 

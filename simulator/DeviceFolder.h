@@ -19,8 +19,8 @@ class CDevice;
 std::variant<DeviceDescription, DescriptionError>
 ReadDeviceFolder(const std::filesystem::path& folder);
 
-/// The device in `folder`, or why there is none. Writes nothing. Until the simulator stores
-/// changes, what happens to the device is forgotten with it.
+/// The device in `folder`, or why there is none. Writes nothing: what happens to
+/// the device is forgotten with it.
 std::variant<std::shared_ptr<CDevice>, DescriptionError>
 OpenDevice(const std::filesystem::path& folder);
 

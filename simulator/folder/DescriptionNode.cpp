@@ -1,6 +1,9 @@
 #include "simulator/folder/DescriptionNode.h"
 
+#include "simulator/folder/MessageText.h"
+
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace simulator {
@@ -114,8 +117,7 @@ void CDescriptionNode::Refuse(const std::string& reason) const {
         // What is missing has no line of its own: it is missing in the object around it.
         line = m_document->lines.LineOf({m_path.begin(), m_path.end() - 1});
     }
-    const auto what = m_path.empty() ? "the description" : QuoteForMessage(Name());
-    throw DescriptionError{m_document->file, line, what + " " + reason};
+    throw DescriptionError{m_document->file, line, QuotedName() + " " + reason};
 }
 
 CDescriptionNode CDescriptionNode::Child(const std::string& step,

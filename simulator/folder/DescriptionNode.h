@@ -6,12 +6,15 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <initializer_list>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace simulator {
 
@@ -65,10 +68,11 @@ public:
             WholeNumber(std::numeric_limits<Number>::min(), std::numeric_limits<Number>::max()));
     }
 
-    /// The value's place as the messages name it: "files[3].type".
-    std::string Name() const { return NameOf(m_path); }
+    /// The value's place as the messages name it: "files[3].type", with the quotes.
+    std::string QuotedName() const { return QuotedNameOf(m_path); }
 
-    /// Throws the error that this value is wrong; `reason` goes after its quoted name.
+    /// Throws the error that this value is wrong; `reason` goes after its quoted name. Names that
+    /// the description gives go into it by QuoteForMessage only.
     [[noreturn]] void Refuse(const std::string& reason) const;
 
 private:

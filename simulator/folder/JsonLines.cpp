@@ -1,10 +1,12 @@
 #include "simulator/folder/JsonLines.h"
 
+#include "simulator/folder/MessageText.h"
+
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <cstdint>
 #include <iterator>
-#include <set>
-#include <utility>
 
 namespace simulator {
 
@@ -48,13 +50,30 @@ private:
     Progress* m_progress;
 };
 
+/// Objects and lists inside each other, the outermost one included.
+constexpr std::size_t kMostLevels = 8;
+
+/// What the parser says, without its own name, its notion of the place, and the text around the
+/// place, which may be anything.
+std::string ReasonOf(const nlohmann::json::exception& error, const std::string& lastRead) {
+    std::string reason = error.what();
+    if (const auto place = reason.find(", column "); place != std::string::npos) {
+        reason.erase(0, reason.find(": ", place) + 2);
+    }
+    const auto context = "; last read: '" + lastRead + "'";
+    if (const auto begin = reason.find(context); begin != std::string::npos) {
+        reason.erase(begin, context.size());
+    }
+    return "is not valid JSON: " + reason;
 }
 
-/// Receives the parser's events and notes the line of each value.
+}
+
+/// Receives the parser's events and notes the line of each value. Each returns whether to go on.
 class CLineRecorder final : public nlohmann::json_sax<nlohmann::json> {
 public:
-    CLineRecorder(CJsonLines& lines, const Progress& progress)
-        : m_lines(lines), m_progress(progress) {}
+    CLineRecorder(CJsonLines& lines, std::string_view text, const Progress& progress)
+        : m_lines(lines), m_text(text), m_progress(progress) {}
 
     bool null() override { return Scalar(Line()); }
     bool boolean(bool) override { return Scalar(Line()); }
@@ -68,53 +87,49 @@ public:
     bool end_object() override { return Close(); }
     bool end_array() override { return Close(); }
     bool key(std::string& name) override;
-    bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception&) override {
-        return false;
-    }
+    bool parse_error(std::size_t position, const std::string& lastRead,
+                     const nlohmann::json::exception& error) override;
 
 private:
     struct Container {
-        JsonPath path;
+        std::size_t number;
         bool isArray;
-        std::size_t index = 0;
-        std::set<std::string> keys = {};
-        std::string key = {};
+        std::size_t elements = 0;
+        /// From here to the value that is being read.
+        std::string step = {};
     };
 
     std::size_t Line() const { return m_progress.newlines + 1; }
     /// A number ends where the next character is none of it, so that one has been read, too.
     std::size_t LineOfNumber() const { return Line() - (m_progress.isLastNewline ? 1 : 0); }
 
-    JsonPath NextPath();
     bool Scalar(std::size_t line);
     bool Open(bool isArray);
     bool Close();
+    /// Notes the value that begins, and gives its number.
+    std::size_t Note(std::size_t line);
+    CJsonLines::Place Place() const;
+    /// The quoted name of the value that is being read.
+    std::string Name() const;
+    bool Stop(std::size_t line, const std::string& reason);
 
     CJsonLines& m_lines;
+    const std::string_view m_text;
     const Progress& m_progress;
     std::vector<Container> m_open;
 };
 
-JsonPath CLineRecorder::NextPath() {
-    if (m_open.empty()) {
-        return {};
-    }
-    auto& container = m_open.back();
-    auto path = container.path;
-    path.push_back(container.isArray ? "[" + std::to_string(container.index++) + "]"
-                                     : container.key);
-    return path;
-}
-
 bool CLineRecorder::Scalar(std::size_t line) {
-    m_lines.m_lines[NextPath()] = line;
+    Note(line);
     return true;
 }
 
 bool CLineRecorder::Open(bool isArray) {
-    auto path = NextPath();
-    m_lines.m_lines[path] = Line();
-    m_open.push_back({std::move(path), isArray});
+    const auto number = Note(Line());
+    if (m_open.size() == kMostLevels) {
+        return Stop(Line(), Name() + " is nested too deeply: 8 levels are the most");
+    }
+    m_open.push_back({number, isArray});
     return true;
 }
 
@@ -124,36 +139,74 @@ bool CLineRecorder::Close() {
 }
 
 bool CLineRecorder::key(std::string& name) {
-    auto& container = m_open.back();
-    container.key = name;
-    if (!container.keys.insert(name).second && m_lines.m_duplicateLine == 0) {
-        m_lines.m_duplicate = container.path;
-        m_lines.m_duplicate.push_back(name);
-        m_lines.m_duplicateLine = Line();
-    }
-    return true;
+    m_open.back().step = name;
+    return !m_lines.m_values.contains(Place()) || Stop(Line(), Name() + " is given twice");
 }
 
-CJsonLines::CJsonLines(const std::string& text) {
+bool CLineRecorder::parse_error(std::size_t position, const std::string& lastRead,
+                                const nlohmann::json::exception& error) {
+    // The character at fault is the last one that was read, and its position counts from 1.
+    const auto before = m_text.substr(0, position > 0 ? position - 1 : 0);
+    const auto line = 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
+    if (dynamic_cast<const nlohmann::json::out_of_range*>(&error)) {
+        Note(line);
+        return Stop(line, Name() + " is too large a number");
+    }
+    return Stop(line, ReasonOf(error, lastRead));
+}
+
+std::size_t CLineRecorder::Note(std::size_t line) {
+    if (!m_open.empty() && m_open.back().isArray) {
+        auto& list = m_open.back();
+        list.step = "[" + std::to_string(list.elements++) + "]";
+    }
+    const auto number = m_lines.m_values.size() + 1;
+    m_lines.m_values[Place()] = {number, line};
+    return number;
+}
+
+CJsonLines::Place CLineRecorder::Place() const {
+    return m_open.empty() ? CJsonLines::Place()
+                          : CJsonLines::Place(m_open.back().number, m_open.back().step);
+}
+
+std::string CLineRecorder::Name() const {
+    JsonPath path;
+    for (const auto& container : m_open) {
+        path.push_back(container.step);
+    }
+    return QuotedNameOf(path);
+}
+
+bool CLineRecorder::Stop(std::size_t line, const std::string& reason) {
+    m_lines.m_mistake = {line, reason};
+    return false;
+}
+
+CJsonLines::CJsonLines(std::string_view text) {
     Progress progress;
-    CLineRecorder recorder(*this, progress);
+    CLineRecorder recorder(*this, text, progress);
     nlohmann::json::sax_parse(CCountingIterator(text.data(), progress),
                               CCountingIterator(text.data() + text.size(), progress), &recorder);
 }
 
 std::size_t CJsonLines::LineOf(const JsonPath& path) const {
-    const auto found = m_lines.find(path);
-    return found == m_lines.end() ? 0 : found->second;
+    auto found = m_values.find({});
+    for (const auto& step : path) {
+        if (found == m_values.end()) {
+            return 0;
+        }
+        found = m_values.find({found->second.number, step});
+    }
+    return found == m_values.end() ? 0 : found->second.line;
 }
 
-std::string NameOf(const JsonPath& path) {
+std::string QuotedNameOf(const JsonPath& path) {
     std::string name;
     for (const auto& step : path) {
         name += (name.empty() || step.starts_with('[') ? "" : ".") + step;
     }
-    return name;
+    return path.empty() ? "the description" : QuoteForMessage(name);
 }
-
-std::string QuoteForMessage(std::string_view text) { return nlohmann::json(text).dump(); }
 
 }

@@ -2,8 +2,10 @@
 
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace simulator {
@@ -11,33 +13,50 @@ namespace simulator {
 /// The way to a JSON value from the outermost one: the keys of members, and "[3]" for elements.
 using JsonPath = std::vector<std::string>;
 
-/// `path` as messages show it: "files[3].type".
-std::string NameOf(const JsonPath& path);
+/// `path` as messages show it: "files[3].type" with its quotes, or "the description" without any
+/// for the outermost value.
+std::string QuotedNameOf(const JsonPath& path);
 
-/// Quotes `text` as JSON does, so that a line break in it does not break a message into two lines.
-std::string QuoteForMessage(std::string_view text);
+/// What is wrong with a text, whatever its values are to mean.
+struct JsonMistake {
+    /// From 1.
+    std::size_t line;
+    /// On one line.
+    std::string reason;
+
+    bool operator==(const JsonMistake&) const = default;
+};
 
 /// Where the values of a JSON text stand: the parser gives positions for syntax errors only, and
 /// errors of meaning need them as well.
+///
+/// Takes time and memory in proportion to the text, so that no text can make it slow.
 class CJsonLines {
 public:
-    /// Reads `text`, which must be JSON that has been parsed successfully.
-    explicit CJsonLines(const std::string& text);
+    /// Reads `text` up to its first mistake. A mistake is what is not JSON, a number that no
+    /// floating-point number holds, a member that is given twice in one object (the parser would
+    /// keep the last and say nothing), and more than 8 levels of objects and lists, of which a
+    /// description needs 3.
+    explicit CJsonLines(std::string_view text);
+
+    /// None when the whole text has been read; it can then be parsed.
+    const std::optional<JsonMistake>& Mistake() const { return m_mistake; }
 
     /// Line, from 1, on which the value begins; 0 for a path that leads to none.
     std::size_t LineOf(const JsonPath& path) const;
 
-    /// The first member that is given twice in one object, and the line of its second key; empty
-    /// when there is none. (The parser would keep the last of them and say nothing.)
-    const JsonPath& Duplicate() const { return m_duplicate; }
-    std::size_t DuplicateLine() const { return m_duplicateLine; }
-
 private:
     friend class CLineRecorder;
 
-    std::map<JsonPath, std::size_t> m_lines;
-    JsonPath m_duplicate;
-    std::size_t m_duplicateLine = 0;
+    /// A value is found by the number of the value around it, 0 for none, and its step from there.
+    using Place = std::pair<std::size_t, std::string>;
+    struct Value {
+        std::size_t number;
+        std::size_t line;
+    };
+
+    std::map<Place, Value> m_values;
+    std::optional<JsonMistake> m_mistake;
 };
 
 }

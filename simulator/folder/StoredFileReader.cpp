@@ -1,11 +1,14 @@
 #include "simulator/folder/StoredFileReader.h"
 
+#include "simulator/folder/MessageText.h"
+
 #include <cerrno>
 #include <cstdint>
 #include <fstream>
 #include <limits>
 #include <map>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -23,7 +26,7 @@ constexpr NamedValue kGenerations[] = {{"none", 0}, {"QX1", 3}, {"QX2", 4}, {"QX
 template <class Key>
 class CFirstUse {
 public:
-    /// Null when `key` is new, else the name of its first user.
+    /// Null when `key` is new, else the quoted name of its first user.
     const std::string* Claim(const Key& key, std::string name) {
         const auto [entry, isNew] = m_names.emplace(key, std::move(name));
         return isNew ? nullptr : &entry->second;
@@ -38,11 +41,7 @@ bool IsPlainFileName(const std::string& name) {
            name.find_first_of(std::string_view("/\\\0", 3)) == std::string::npos;
 }
 
-std::int32_t ReadSize(const CDescriptionNode& node, const Path& folder, const std::string& name) {
-    const auto path = folder / "files" / name;
-    const auto refuse = [&](const std::string& reason) {
-        node.Refuse("is stored in files/" + name + ", which " + reason);
-    };
+std::int32_t ReadSize(const Path& path, const auto& refuse) {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
     if (status.type() == std::filesystem::file_type::not_found) {
@@ -55,14 +54,30 @@ std::int32_t ReadSize(const CDescriptionNode& node, const Path& folder, const st
         refuse("is not a plain file");
     }
     const auto size = std::filesystem::file_size(path, error);
-    if (error || !std::ifstream(path, std::ios::binary)) {
-        refuse("cannot be read: " +
-               (error ? error : std::error_code(errno, std::generic_category())).message());
+    if (error) {
+        refuse("cannot be read: " + error.message());
+    }
+    if (!std::ifstream(path, std::ios::binary)) {
+        refuse("cannot be read: " + std::generic_category().message(errno));
     }
     if (size > static_cast<std::uintmax_t>(std::numeric_limits<std::int32_t>::max())) {
         refuse("is larger than 2147483647 bytes");
     }
     return static_cast<std::int32_t>(size);
+}
+
+std::string ReadContent(const CDescriptionNode& node, const std::string& fileName) {
+    if (const auto content = node.OptionalMember("content")) {
+        auto name = content->Text();
+        if (!IsPlainFileName(name)) {
+            content->Refuse("must be a plain file name");
+        }
+        return name;
+    }
+    if (!IsPlainFileName(fileName)) {
+        node.Member("name").Refuse("is no plain file name, so that \"content\" must give one");
+    }
+    return fileName;
 }
 
 StoredFile ReadStoredFile(const CDescriptionNode& node) {
@@ -76,13 +91,7 @@ StoredFile ReadStoredFile(const CDescriptionNode& node) {
     if (const auto generation = node.OptionalMember("generation")) {
         file.generation = generation->NameOrNumber<std::uint32_t>(kGenerations);
     }
-    const auto content = node.OptionalMember("content");
-    file.content = content ? content->Text() : file.name;
-    if (!IsPlainFileName(file.content)) {
-        (content ? *content : node.Member("name"))
-            .Refuse(content ? "must be a plain file name"
-                            : "is no plain file name, so that \"content\" must give one");
-    }
+    file.content = ReadContent(node, file.name);
     return file;
 }
 
@@ -95,13 +104,16 @@ std::vector<StoredFile> ReadStoredFiles(const CDescriptionNode& list, const Path
     list.ForEachElement([&](const CDescriptionNode& node) {
         auto file = ReadStoredFile(node);
         // The panel addresses a file by its type and the low 16 bits of its identifier.
-        if (const auto* first = addresses.Claim({file.type, file.id & 0xFFFF}, node.Name())) {
-            node.Refuse("has the type and the identifier (low 16 bits) of \"" + *first + '"');
+        if (const auto* first = addresses.Claim({file.type, file.id & 0xFFFF}, node.QuotedName())) {
+            node.Refuse("has the type and the identifier (low 16 bits) of " + *first);
         }
-        if (const auto* first = contents.Claim(file.content, node.Name())) {
-            node.Refuse("has the content of \"" + *first + '"');
+        if (const auto* first = contents.Claim(file.content, node.QuotedName())) {
+            node.Refuse("has the content of " + *first);
         }
-        file.sizeBytes = ReadSize(node, folder, file.content);
+        file.sizeBytes = ReadSize(folder / "files" / file.content, [&](const std::string& reason) {
+            node.Refuse("is stored in " + QuoteForMessage("files/" + file.content) + ", which " +
+                        reason);
+        });
         files.push_back(std::move(file));
     });
     return files;

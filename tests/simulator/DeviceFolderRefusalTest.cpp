@@ -13,6 +13,11 @@ TEST_F(DeviceFolderRefusalTest, MissingFolderIsRefused) {
     EXPECT_FALSE(fs::exists(folder));
 }
 
+TEST_F(DeviceFolderRefusalTest, FolderOfTwoLinesIsRefusedInOne) {
+    const auto path = m_folder.Path().string();
+    ExpectRefusal(path + "/a\nb\\\"\xE9", path + "/a\\nb\\\"\xE9: there is no such folder");
+}
+
 TEST_F(DeviceFolderRefusalTest, FileInPlaceOfFolderIsRefused) {
     const auto folder = m_folder.Path() / "device.json";
     ExpectRefusal(folder, folder.string() + ": is not a folder");
@@ -61,6 +66,19 @@ TEST_F(DeviceFolderRefusalTest, BrokenUtf8IsRefusedWithItsLine) {
                   "string: ill-formed UTF-8 byte");
 }
 
+TEST_F(DeviceFolderRefusalTest, DeepNestingIsRefusedWithItsLine) {
+    Describe("{\n\"a\": " + std::string(100000, '['));
+    ExpectRefusal("/device.json:2: \"a[0][0][0][0][0][0][0]\" is nested too deeply: 8 levels are "
+                  "the most");
+}
+
+TEST_F(DeviceFolderRefusalTest, NumberAsDescriptionIsRefused) {
+    Describe("\n7");
+    ExpectRefusal("/device.json:2: the description must be an object");
+    Describe("\n7e999\n");
+    ExpectRefusal("/device.json:2: the description is too large a number");
+}
+
 TEST_F(DeviceFolderRefusalTest, MissingFilesAreRefused) {
     Describe(R"({"model": 4, "mode": 1, "serialNumber": 7,
         "memory": {"ramBytes": 1, "flashBytes": 1}})");
@@ -76,28 +94,30 @@ TEST_F(DeviceFolderRefusalTest, FilesAsObjectAreRefused) {
 
 TEST_F(DeviceFolderRefusalTest, MissingStoredFileIsRefused) {
     fs::remove(m_folder.Path() / "files/second");
-    ExpectRefusal("/device.json:11: \"files[1]\" is stored in files/second, which is missing");
+    ExpectRefusal("/device.json:11: \"files[1]\" is stored in \"files/second\", which is missing");
 }
 
 TEST_F(DeviceFolderRefusalTest, FolderInPlaceOfStoredFileIsRefused) {
     fs::remove(m_folder.Path() / "files/a.fia");
     fs::create_directory(m_folder.Path() / "files/a.fia");
     ExpectRefusal(
-        "/device.json:10: \"files[0]\" is stored in files/a.fia, which is not a plain file");
+        "/device.json:10: \"files[0]\" is stored in \"files/a.fia\", which is not a plain file");
 }
 
 TEST_F(DeviceFolderRefusalTest, UnreadableStoredFileIsRefused) {
     const auto path = m_folder.Path() / "files/a.fia";
     fs::remove(path);
     fs::create_symlink(path, path);
-    ExpectRefusal("/device.json:10: \"files[0]\" is stored in files/a.fia, which cannot be read: "
-                  "Too many levels of symbolic links");
+    ExpectRefusal(
+        "/device.json:10: \"files[0]\" is stored in \"files/a.fia\", which cannot be read: "
+        "Too many levels of symbolic links");
 }
 
 TEST_F(DeviceFolderRefusalTest, TooLargeStoredFileIsRefused) {
     fs::resize_file(m_folder.Path() / "files/a.fia", 2147483648);
-    ExpectRefusal("/device.json:10: \"files[0]\" is stored in files/a.fia, which is larger than "
-                  "2147483647 bytes");
+    ExpectRefusal(
+        "/device.json:10: \"files[0]\" is stored in \"files/a.fia\", which is larger than "
+        "2147483647 bytes");
 }
 
 }

@@ -43,21 +43,74 @@ TEST(JsonLinesTest, CarriageReturnsAreNoLines) {
 
 TEST(JsonLinesTest, UnknownPathHasNoLine) { EXPECT_EQ(CJsonLines("{}").LineOf({"a"}), 0u); }
 
-TEST(JsonLinesTest, FirstDuplicateIsFoundInTheSameObjectOnly) {
-    const CJsonLines lines("{\"a\": {\"x\": 1},\n\"b\": {\"x\": 1,\n\"x\": 2},\n\"a\": 3}");
-    EXPECT_EQ(lines.Duplicate(), (JsonPath{"b", "x"}));
-    EXPECT_EQ(lines.DuplicateLine(), 3u);
+TEST(JsonLinesTest, PathPastAValueHasNoLine) {
+    EXPECT_EQ(CJsonLines("{\"a\": 1}").LineOf({"a", "b", "c"}), 0u);
 }
 
-TEST(JsonLinesTest, WithoutDuplicateThereIsNone) {
-    EXPECT_EQ(CJsonLines("{\"a\": {\"a\": 1}}").DuplicateLine(), 0u);
+TEST(JsonLinesTest, MembersOfLikeNameKeepTheirOwnLines) {
+    const CJsonLines lines("{\"a\": {\"x\": 1},\n\"b\": {\"x\": 2},\n\"x\": 3}");
+    EXPECT_EQ(lines.LineOf({"a", "x"}), 1u);
+    EXPECT_EQ(lines.LineOf({"b", "x"}), 2u);
+    EXPECT_EQ(lines.LineOf({"x"}), 3u);
+}
+
+TEST(JsonLinesTest, GoodTextHasNoMistake) {
+    EXPECT_EQ(CJsonLines("{\"a\": {\"a\": [1, 2.5]}}").Mistake(), std::nullopt);
 }
 
 TEST(JsonLinesTest, NamesShowTheWayToAValue) {
-    EXPECT_EQ(NameOf({"files", "[3]", "type"}), "files[3].type");
-    EXPECT_EQ(NameOf({}), "");
-    EXPECT_EQ(QuoteForMessage("a\n\"b\""), "\"a\\n\\\"b\\\"\"");
+    EXPECT_EQ(QuotedNameOf({"files", "[3]", "type"}), "\"files[3].type\"");
+    EXPECT_EQ(QuotedNameOf({"a\n\"b\""}), "\"a\\n\\\"b\\\"\"");
+    EXPECT_EQ(QuotedNameOf({}), "the description");
 }
+
+/// A text and its first mistake.
+struct MistakenText {
+    const char* name;
+    std::string text;
+    std::size_t line;
+    const char* reason;
+
+    friend void PrintTo(const MistakenText& mistaken, std::ostream* stream) {
+        *stream << mistaken.text;
+    }
+};
+
+class JsonMistakeTest : public testing::TestWithParam<MistakenText> {};
+
+TEST_P(JsonMistakeTest, IsFound) {
+    const auto mistake = CJsonLines(GetParam().text).Mistake();
+    ASSERT_TRUE(mistake);
+    EXPECT_EQ(mistake->reason, GetParam().reason);
+    EXPECT_EQ(mistake->line, GetParam().line);
+}
+
+const MistakenText kMistakenTexts[] = {
+    {"Duplicate", "{\"a\": {\"x\": 1},\n\"b\": {\"x\": 1,\n\"x\": 2},\n\"a\": 3}", 3,
+     "\"b.x\" is given twice"},
+    {"DuplicateAfterAnObject", "{\"a\": {\"x\": {}},\n\"a\": 3}", 2, "\"a\" is given twice"},
+    {"DuplicateBeforeBadSyntax", "{\"a\": 1,\n\"a\": 2,\n!", 2, "\"a\" is given twice"},
+    {"SyntaxBeforeDuplicate", "{!\n\"a\": 1, \"a\": 2}", 1,
+     "is not valid JSON: syntax error while parsing object key - invalid literal; expected string "
+     "literal"},
+    {"EndBelowTheLastLine", "{\n\"a\": 1\n", 3,
+     "is not valid JSON: syntax error while parsing object - unexpected end of input; expected "
+     "'}'"},
+    {"TextAfterTheEnd", "{}\n{}", 2,
+     "is not valid JSON: syntax error while parsing value - unexpected '{'; expected end of input"},
+    {"TextThatLooksLikeTheMessage", "[\"; last read: ' ; expected \xC2\x9B\xFF\"]", 1,
+     "is not valid JSON: syntax error while parsing value - invalid string: ill-formed UTF-8 "
+     "byte"},
+    {"NumberTooLarge", "{\"a\": [1, 2,\n1.7e308, 1.8e308\n]}", 2, "\"a[3]\" is too large a number"},
+    {"DigitsTooMany", "[" + std::string(400, '9') + "]", 1, "\"[0]\" is too large a number"},
+    {"ListsTooDeep", "[[[[[[[[\n[]]]]]]]]]", 2,
+     "\"[0][0][0][0][0][0][0][0]\" is nested too deeply: 8 levels are the most"},
+    {"ObjectTooDeep", "[[[[[[[{\"a\":\n{}}]]]]]]]", 2,
+     "\"[0][0][0][0][0][0][0].a\" is nested too deeply: 8 levels are the most"},
+};
+
+INSTANTIATE_TEST_SUITE_P(, JsonMistakeTest, testing::ValuesIn(kMistakenTexts),
+                         [](const auto& text) { return text.param.name; });
 
 }
 }

@@ -1,0 +1,12 @@
+#include "simulator/DescriptionError.h"
+
+#include "simulator/folder/MessageText.h"
+
+namespace simulator {
+
+std::string DescriptionError::Message() const {
+    const auto place = line == 0 ? "" : ":" + std::to_string(line);
+    return EscapeForMessage(file.string()) + place + ": " + reason;
+}
+
+}
