@@ -193,6 +193,14 @@ TEST_F(ReleasedInsideTest, ReleaseWhileChangingTheContextIsSafe) {
                 ElementsAre("Context.Unregister", "Context.Register", "Context.Unregister"));
 }
 
+TEST_F(ReleasedInsideTest, ReleaseWhileLeavingTheContextIsSafe) {
+    const CHost next({.areApplied = false});
+    StartView();
+    ReleaseWithin("Context.Unregister");
+    EXPECT_EQ(panel->SetContext(interception.Wrap(next.Context())), contract::kSuccess);
+    ExpectReleased();
+}
+
 TEST_F(ReleasedInsideTest, ReleaseWithinTheViewsCreationIsSafe) {
     ASSERT_EQ(panel->SetContextAndRegister(interception.Wrap(host.Context())), contract::kSuccess);
     ReleaseWithin("Context.QueryHostViewControl");

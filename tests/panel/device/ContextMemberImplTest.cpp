@@ -135,6 +135,15 @@ TEST_F(ContextMemberImplTest, AnotherContextReplacesTheFirst) {
     EXPECT_THAT(another->unregistered, ElementsAre(88u));
 }
 
+TEST_F(ContextMemberImplTest, RegisteringTwiceGivesTheFirstCookieBack) {
+    EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
+    EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
+    EXPECT_THAT(context->unregistered, ElementsAre(77u));
+    EndPanel();
+    EXPECT_THAT(context->unregistered, ElementsAre(77u, 78u));
+    EXPECT_EQ(context.use_count(), 1);
+}
+
 TEST_F(ContextMemberImplTest, RegistrationFollowsTheLatestContext) {
     EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
     EXPECT_EQ(panel->SetContext(another), contract::kSuccess);
