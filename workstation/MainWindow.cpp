@@ -50,7 +50,11 @@ CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesyste
     resize(sizeHint().boundedTo(screen()->availableSize()));
 }
 
-CMainWindow::~CMainWindow() { m_panelHost.reset(); }
+CMainWindow::~CMainWindow() {
+    // The panel's end makes device calls, during which the window still handles events: a close
+    // must not look for an idle host then.
+    m_mayClose = true;
+}
 
 void CMainWindow::Start(const std::optional<OpenedDevice>& device) {
     if (!device) {

@@ -111,13 +111,15 @@ bool CPanelHost::IsPanelBusy() const {
 }
 
 void CPanelHost::HandOver(const std::string& name, std::shared_ptr<simulator::CDevice> device) {
+    // First the device: its knobs may concern the connecting itself.
+    if (device) {
+        Insert(name, std::move(device));
+    }
     // A failure is the panel's to report.
     static_cast<void>(m_panel->SetSubsystemAccess(m_access));
     static_cast<void>(m_panel->SetConnection(m_connection));
     WatchConnection();
     WatchProgress();
-    if (device)
-        Insert(name, std::move(device));
     // The start signal has the panel read a device that is there, so it gets no state 7 for it.
     static_cast<void>(m_panel->Go());
 }

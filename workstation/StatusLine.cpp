@@ -44,6 +44,8 @@ CStatusLine::CStatusLine(QWidget* parent)
     addPermanentWidget(&m_progress);
     addPermanentWidget(&m_polling);
     m_progress.hide();
+    m_clearing.setParent(this);
+    m_clearing.setObjectName("clearing");
     m_clearing.setSingleShot(true);
     m_clearing.setInterval(kLingerMs);
     connect(&m_clearing, &QTimer::timeout, this, [this] { Clear(); });
@@ -62,6 +64,7 @@ void CStatusLine::ShowPolling(bool isOn) {
 
 void CStatusLine::ShowOperation(std::string_view operation) {
     m_clearing.stop();
+    m_operationLasts = true;
     m_operation.setText(QString::fromStdString(DescribeOperation(operation)) + QChar(0x2026));
 }
 
@@ -72,10 +75,16 @@ void CStatusLine::ShowProgress(const std::string& text, std::uint32_t done, std:
             static_cast<int>(std::uint64_t{kWhole} * std::min(done, total) / total));
         m_progress.show();
     }
-    m_clearing.start();
+    // What a lasting operation has reached stays until the operation ends.
+    if (!m_operationLasts) {
+        m_clearing.start();
+    }
 }
 
-void CStatusLine::EndOperation() { m_clearing.start(); }
+void CStatusLine::EndOperation() {
+    m_operationLasts = false;
+    m_clearing.start();
+}
 
 void CStatusLine::Clear() {
     m_operation.clear();

@@ -36,6 +36,7 @@ private:
     QProgressBar& m_progress;
     QLabel& m_polling;
     QTimer m_clearing;
+    bool m_operationLasts = false;
 };
 
 }

@@ -23,10 +23,15 @@ private:
     std::size_t& m_depth;
 };
 
-void DeliverEvents(CDeviceCall& call) {
-    // A device does not act on the result of a handler.
-    while (const auto event = call.TakeEvent())
+/// Returns whether there was any.
+bool DeliverEvents(CDeviceCall& call) {
+    bool hasDelivered = false;
+    while (const auto event = call.TakeEvent()) {
+        // A device does not act on the result of a handler.
         static_cast<void>((*event)());
+        hasDelivered = true;
+    }
+    return hasDelivered;
 }
 
 }
@@ -77,8 +82,11 @@ void CWorkerInterceptor::WaitPainting(CDeviceCall& call) {
     // The condition is the call's end and not the event loop's, which QApplication::exit ends
     // early.
     while (!call.Wait(0ms)) {
-        HandleEvents(true);
-        DeliverEvents(call);
+        // Events first: those raised before there was anybody to wake are waiting. The end is
+        // looked for again after a handler, whose own event loop may have swallowed its wake-up.
+        if (!DeliverEvents(call)) {
+            HandleEvents(true);
+        }
     }
 }
 

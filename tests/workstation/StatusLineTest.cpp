@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QTimer>
 
 #include <string>
 
@@ -63,6 +64,18 @@ TEST_F(StatusLineTest, EndedOperationGoesAway) {
     m_line.EndOperation();
     EXPECT_TRUE(Until([this] { return Text("operation").empty(); }));
     EXPECT_FALSE(Progress().isVisibleTo(&m_window));
+}
+
+TEST_F(StatusLineTest, ProgressStaysWhileTheOperationLasts) {
+    m_line.ShowOperation("ProgrammingDeviceControl.UpdateFromIniFile");
+    m_line.ShowProgress("Writing", 1, 2);
+    QTimer* const clearing = m_line.findChild<QTimer*>("clearing");
+    ASSERT_NE(clearing, nullptr);
+    EXPECT_FALSE(clearing->isActive());
+    EXPECT_EQ(Text("operation"), "Writing");
+    EXPECT_TRUE(Progress().isVisibleTo(&m_window));
+    m_line.EndOperation();
+    EXPECT_TRUE(clearing->isActive());
 }
 
 TEST_F(StatusLineTest, DeviceTextIsNoMarkup) {

@@ -159,6 +159,23 @@ TEST_F(WorkerInterceptorTest, EventOfALongCallArrivesWhileItLasts) {
               kSuccess);
 }
 
+TEST_F(WorkerInterceptorTest, EventBeforeTheWaitNeedsNoOtherToBeHeard) {
+    // The second call: start-up events of the loop, which would wake it, are gone by then.
+    for (int i = 0; i < 2; ++i) {
+        QCoreApplication::processEvents();
+        std::promise<void> heard;
+        EXPECT_EQ(Call([&] {
+                      Raise([&] {
+                          heard.set_value();
+                          return kSuccess;
+                      });
+                      EXPECT_EQ(heard.get_future().wait_for(10s), std::future_status::ready);
+                      return kSuccess;
+                  }),
+                  kSuccess);
+    }
+}
+
 TEST_F(WorkerInterceptorTest, HundredEventsOfALongCallAreAllHeard) {
     std::promise<void> release;
     QTimer::singleShot(50, [&] { release.set_value(); });
