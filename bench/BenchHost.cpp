@@ -25,12 +25,13 @@ void Require(contract::Status status) {
 
 }
 
-simulator::DeviceDescription DeviceWithFiles(std::int64_t count) {
+simulator::DeviceDescription DeviceWithFiles(std::int64_t count, Device kind) {
     simulator::DeviceDescription device;
     device.type = simulator::kKrx20;
-    // A knob that does nothing: with it the device's calls pass through interception, as those of
-    // the workstation do. A device without is a few memory reads that nobody waits for.
-    device.latency.operationsMs["FileInfo.GetName"] = 0;
+    if (kind == Device::Intercepted) {
+        // A knob that does nothing is a knob all the same.
+        device.latency.operationsMs["FileInfo.GetName"] = 0;
+    }
     for (std::int32_t test = 1; test <= contract::kSelfTestCount; ++test) {
         device.selfTests[static_cast<contract::SelfTest>(test)] = 0;
     }

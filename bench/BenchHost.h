@@ -12,8 +12,16 @@
 
 namespace bench {
 
+/// How the calls of a device are led.
+enum class Device {
+    /// Straight into memory: a device without knobs.
+    InMemory,
+    /// Through interception, as those of the workstation and of a device with knobs.
+    Intercepted,
+};
+
 /// A healthy KRX-20 with that many files.
-simulator::DeviceDescription DeviceWithFiles(std::int64_t count);
+simulator::DeviceDescription DeviceWithFiles(std::int64_t count, Device kind = Device::InMemory);
 
 /// A panel connected to a simulated device, on whatever toolkit it is given.
 class CBenchHost {

@@ -17,10 +17,10 @@ using bench::DeviceWithFiles;
 
 /// The panel without a screen, answering no prompts: a benchmark that met one would measure it.
 struct HeadlessBench {
-    explicit HeadlessBench(std::int64_t files)
+    explicit HeadlessBench(std::int64_t files, bench::Device kind = bench::Device::InMemory)
         : desktop(std::make_shared<headless::HeadlessDesktop>()),
           host(std::make_unique<headless::CHeadlessToolkit>(desktop), nullptr,
-               DeviceWithFiles(files)) {
+               DeviceWithFiles(files, kind)) {
         host.Refresh();
         Check(files);
     }
@@ -35,8 +35,8 @@ struct HeadlessBench {
     CBenchHost host;
 };
 
-void BareDeviceCalls(benchmark::State& state) {
-    HeadlessBench bench(state.range(0));
+void BareDeviceCalls(benchmark::State& state, bench::Device kind) {
+    HeadlessBench bench(state.range(0), kind);
     std::shared_ptr<contract::ISubsystem> subsystem;
     std::shared_ptr<contract::IProgrammingDeviceSubsystem> device;
     if (bench.host.Host()
@@ -53,8 +53,8 @@ void BareDeviceCalls(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-void RefreshThroughHeadlessView(benchmark::State& state) {
-    HeadlessBench bench(state.range(0));
+void RefreshThroughHeadlessView(benchmark::State& state, bench::Device kind) {
+    HeadlessBench bench(state.range(0), kind);
     for (auto _ : state) {
         bench.host.Refresh();
     }
@@ -77,8 +77,16 @@ void MillionDeviceMessages(benchmark::State& state) {
 
 }
 
-BENCHMARK(BareDeviceCalls)->Arg(100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(RefreshThroughHeadlessView)
+BENCHMARK_CAPTURE(BareDeviceCalls, InMemory, bench::Device::InMemory)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BareDeviceCalls, Intercepted, bench::Device::Intercepted)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(RefreshThroughHeadlessView, Intercepted, bench::Device::Intercepted)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(RefreshThroughHeadlessView, InMemory, bench::Device::InMemory)
     ->RangeMultiplier(10)
     ->Range(1000, 1000000)
     ->Unit(benchmark::kMillisecond)
