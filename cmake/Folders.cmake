@@ -28,6 +28,6 @@ function(krx8_add_tests name)
   if(ARG_ENVIRONMENT)
     list(APPEND ARG_PROPERTIES ENVIRONMENT "${ARG_ENVIRONMENT}")
   endif()
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "${ARG_PREFIX}"
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES TEST_PREFIX "${ARG_PREFIX}"
                        PROPERTIES TIMEOUT 120 ${ARG_PROPERTIES})
 endfunction()
