@@ -1,6 +1,7 @@
 #include "workstation/Program.h"
 
 #include "simulator/DeviceFolder.h"
+#include "simulator/folder/MessageText.h"
 #include "workstation/CommandLine.h"
 #include "workstation/Display.h"
 #include "workstation/MainWindow.h"
@@ -63,7 +64,8 @@ Path RootOf(const Options& options) {
     std::error_code error;
     const std::filesystem::directory_iterator entries(options.devices, error);
     if (error)
-        throw Refusal{options.devices.string() + ": cannot be read: " + error.message()};
+        throw Refusal{simulator::EscapeForMessage(options.devices.string()) +
+                      ": cannot be read: " + error.message()};
     return Normal(options.devices);
 }
 

@@ -124,6 +124,11 @@ TEST_F(ProgramTest, MissingRootIsRefused) {
                   PathText("none") + ": cannot be read: No such file or directory");
 }
 
+TEST_F(ProgramTest, LineBreakInARootStaysInOneLine) {
+    ExpectRefusal({"--devices", Path("two\nlines")},
+                  PathText("two\\nlines") + ": cannot be read: No such file or directory");
+}
+
 TEST_F(ProgramTest, UnwritableSnapshotIsRefused) {
     const Outcome outcome =
         Run({"--device", Sample("krx-20"), "--snapshot", Path("none/picture.png")});
