@@ -1,11 +1,11 @@
+#include "tests/workstation/ProgramRun.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QDirIterator>
+#include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include <string>
 
@@ -14,61 +14,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-struct Outcome {
-    int status = -1;
-    std::string output;
-    std::string errors;
-};
-
-QString Sample(const char* name) { return QString(KRX8_SAMPLES) + "/" + name; }
-
-/// The program itself, started where there is no display.
-class ProgramTest : public testing::Test {
-protected:
-    Outcome Run(const QStringList& arguments, const QString& program = KRX8_WORKSTATION) {
-        QProcess process;
-        process.setWorkingDirectory(m_folder.path());
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-            environment.remove(name);
-        if (!m_display.isEmpty())
-            environment.insert("DISPLAY", m_display);
-        process.setProcessEnvironment(environment);
-        process.start(program, arguments);
-        EXPECT_TRUE(process.waitForFinished(60'000)) << "it hangs";
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        return {process.exitCode(), process.readAllStandardOutput().toStdString(),
-                process.readAllStandardError().toStdString()};
-    }
-
-    void ExpectRefusal(const QStringList& arguments, const std::string& line) {
-        const QStringList before = FolderContents();
-        const Outcome outcome = Run(arguments);
-        EXPECT_EQ(outcome.status, 2);
-        EXPECT_EQ(outcome.output, "");
-        EXPECT_EQ(outcome.errors, "krx8-workstation: " + line + "\n");
-        EXPECT_EQ(FolderContents(), before) << "nothing is written";
-    }
-
-    QString Path(const char* name) const { return m_folder.filePath(name); }
-    std::string PathText(const char* name) const { return Path(name).toStdString(); }
-    void Write(const QString& path, const char* text) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
-    QStringList FolderContents() const {
-        QStringList contents;
-        QDirIterator entries(m_folder.path(), QDir::AllEntries | QDir::NoDotAndDotDot,
-                             QDirIterator::Subdirectories);
-        while (entries.hasNext())
-            contents << entries.next();
-        return contents;
-    }
-
-    QTemporaryDir m_folder;
-    QString m_display; ///< none unless a test says so
-};
+class ProgramTest : public ProgramRun {};
 
 TEST_F(ProgramTest, UnknownOptionIsRefused) {
     ExpectRefusal({"--colour"}, "unknown option '--colour'; --help lists the options");
@@ -219,27 +165,6 @@ TEST_F(ProgramTest, BoxIsToldAndAnswered) {
                            "    The Programming Device is not in Normal mode and therefore some "
                            "information about the Programming Device can be incorrect.\n"));
     EXPECT_THAT(outcome.output, HasSubstr("\nAnswered: OK\nKRX-8 Info\n"));
-}
-
-TEST_F(ProgramTest, RunScriptRefusesWhatTheProgramDoesNotKnow) {
-    const Outcome outcome = Run({"--colour"}, KRX8_RUN_SCRIPT);
-    EXPECT_EQ(outcome.status, 2);
-    EXPECT_EQ(outcome.output, "");
-    EXPECT_EQ(outcome.errors, "run: unknown option '--colour'; ./run --help lists the options\n");
-}
-
-TEST_F(ProgramTest, RunScriptRefusesAnOptionWithoutItsValue) {
-    const Outcome outcome = Run({"--text", "--device"}, KRX8_RUN_SCRIPT);
-    EXPECT_EQ(outcome.status, 2);
-    EXPECT_EQ(outcome.errors,
-              "run: option --device needs a value; ./run --help lists the options\n");
-}
-
-TEST_F(ProgramTest, RunScriptHelpsWithTheProgramsOptionsToo) {
-    const Outcome outcome = Run({"--help"}, KRX8_RUN_SCRIPT);
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_THAT(outcome.output, StartsWith("Usage: ./run [OPTION]...\n"));
-    EXPECT_THAT(outcome.output, HasSubstr("\n  --snapshot FILE.png "));
 }
 
 }
