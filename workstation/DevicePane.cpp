@@ -1,5 +1,6 @@
 #include "workstation/DevicePane.h"
 
+#include "frontend/qt/CommandEvent.h"
 #include "workstation/Text.h"
 
 #include <QLabel>
@@ -57,7 +58,11 @@ void CDevicePane::OnConnect(std::function<void(const Folder&)> connect) {
 }
 
 void CDevicePane::OnDisconnect(std::function<void()> disconnect) {
-    connect(&m_disconnectButton, &QPushButton::clicked, std::move(disconnect));
+    connect(&m_disconnectButton, &QPushButton::clicked, [this, disconnect = std::move(disconnect)] {
+        if (qt::MayCommand(*this)) {
+            disconnect();
+        }
+    });
 }
 
 void CDevicePane::ShowDevices(const std::vector<Folder>& folders) {
@@ -87,8 +92,9 @@ void CDevicePane::Mark(const Folder& connected) {
 }
 
 void CDevicePane::ConnectCurrent() {
-    if (m_list.currentItem() && m_connect)
+    if (m_list.currentItem() && m_connect && qt::MayCommand(*this)) {
         m_connect(FolderOf(*m_list.currentItem()));
+    }
 }
 
 void CDevicePane::UpdateButtons() {

@@ -14,7 +14,7 @@ namespace workstation {
 /// The devices at the left of the window, with the buttons that connect and disconnect them.
 ///
 /// Mnemonics are chosen beside the panel's own (U, D, R, S, E, K, C, H), with which they share a
-/// window.
+/// window. A press is subject to qt::kCommandEvent, like one of the panel's buttons.
 class CDevicePane : public QWidget {
 public:
     using Folder = std::filesystem::path;

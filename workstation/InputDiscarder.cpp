@@ -1,5 +1,7 @@
 #include "workstation/InputDiscarder.h"
 
+#include "frontend/qt/CommandEvent.h"
+
 #include <QApplication>
 #include <QEvent>
 
@@ -44,8 +46,14 @@ CInputDiscarder::CInputDiscarder()
 }
 
 bool CInputDiscarder::eventFilter(QObject*, QEvent* event) {
-    return IsInput(event->type()) && QApplication::activeModalWidget() == m_modal &&
-           QApplication::activePopupWidget() == m_popup;
+    if (QApplication::activeModalWidget() != m_modal ||
+        QApplication::activePopupWidget() != m_popup) {
+        return false;
+    }
+    if (event->type() == qt::kCommandEvent) {
+        event->ignore();
+    }
+    return IsInput(event->type());
 }
 
 }

@@ -6,9 +6,10 @@ class QWidget;
 
 namespace workstation {
 
-/// While it lives, what the user types and clicks is thrown away: events handled during a device
-/// call keep the window painted, but must not start a command inside the one that is running, nor
-/// after it. A box or menu that opens meanwhile gets its input. User-interface thread only.
+/// While it lives, what the user types and clicks is thrown away, and what an accessibility tool
+/// presses: events handled during a device call keep the window painted, but must not start a
+/// command inside the one that is running, nor after it. A box or menu that opens meanwhile gets
+/// its input. User-interface thread only.
 class CInputDiscarder : public QObject {
 public:
     CInputDiscarder();

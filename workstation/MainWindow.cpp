@@ -39,7 +39,7 @@ CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesyste
         m_panelHost->Resize({size.width(), size.height()});
     });
     m_devices.OnConnect([this](const auto& folder) { Connect(folder); });
-    m_devices.OnDisconnect([this] { Disconnect(); });
+    m_devices.OnDisconnect([this] { m_panelHost->Disconnect(); });
     connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this,
             [this] { ListDevices(); });
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this,
@@ -127,8 +127,6 @@ void CMainWindow::Connect(const std::filesystem::path& folder) {
     }
     m_panelHost->Connect(folder.string(), std::get<0>(opened));
 }
-
-void CMainWindow::Disconnect() { m_panelHost->Disconnect(); }
 
 void CMainWindow::ListDevices() {
     auto folders = simulator::ListDevices(m_root);

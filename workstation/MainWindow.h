@@ -59,7 +59,6 @@ private:
 
     void BuildLayout();
     void Connect(const std::filesystem::path& folder);
-    void Disconnect();
     void ListDevices();
     void CloseWhenIdle();
 

@@ -4,6 +4,7 @@
 #include "interception/Interception.h"
 #include "simulator/Host.h"
 #include "workstation/ConnectionGate.h"
+#include "workstation/ModalGuard.h"
 #include "workstation/WorkerInterceptor.h"
 
 #include <cstdint>
@@ -36,7 +37,8 @@ public:
 ///
 /// Devices come and go behind one subsystem and one control, since a panel keeps the first control
 /// that it gets. Device calls run on a worker; states of the connection reach the panel only while
-/// it is idle. User-interface thread only.
+/// it is idle. No command of the panel starts while another one, or a refresh, waits for the device
+/// or for an answer of the user's; only what it asks can be answered. User-interface thread only.
 class CPanelHost {
 public:
     /// `panel` is released at the host's end; `observer` must outlive the host.
@@ -89,6 +91,7 @@ private:
     void WatchProgress();
 
     IPanelHostObserver& m_observer;
+    const CModalGuard m_modalGuard;
     simulator::CHost m_host;
     const std::shared_ptr<CWorkerInterceptor> m_worker;
     const std::shared_ptr<CConnectionGate> m_gate;

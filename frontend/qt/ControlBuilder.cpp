@@ -1,5 +1,6 @@
 #include "frontend/qt/ControlBuilder.h"
 
+#include "frontend/qt/CommandEvent.h"
 #include "frontend/qt/Font.h"
 #include "frontend/qt/GroupBox.h"
 #include "frontend/qt/HelpRequests.h"
@@ -109,8 +110,10 @@ QWidget* BuildProgressBar(const ControlTemplate&, const Surroundings& around) {
 QWidget* BuildButton(const ControlTemplate& control, const Surroundings& around) {
     auto* const button = new QPushButton(ToQt(control.text), around.view);
     button->setAutoDefault(false);
-    QObject::connect(button, &QPushButton::clicked, [link = around.link, id = control.id] {
-        link->Notify(&panel::IDialogHandler::OnCommand, id);
+    QObject::connect(button, &QPushButton::clicked, [button, link = around.link, id = control.id] {
+        if (MayCommand(*button)) {
+            link->Notify(&panel::IDialogHandler::OnCommand, id);
+        }
     });
     return button;
 }

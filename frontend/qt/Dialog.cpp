@@ -1,5 +1,6 @@
 #include "frontend/qt/Dialog.h"
 
+#include "frontend/qt/CommandEvent.h"
 #include "frontend/qt/Text.h"
 #include "panel/control/DialogHandler.h"
 
@@ -27,7 +28,11 @@ int CDialog::Run() {
     return self && m_result ? *m_result : static_cast<int>(panel::kCancelButton);
 }
 
-void CDialog::reject() { m_view.SendCommand(panel::kCancelButton); }
+void CDialog::reject() {
+    if (MayCommand(*this)) {
+        m_view.SendCommand(panel::kCancelButton);
+    }
+}
 
 void CDialog::End(int result) {
     m_result = result;

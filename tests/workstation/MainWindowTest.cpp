@@ -136,6 +136,28 @@ TEST_F(MainWindowTest, DamagedDeviceIsRefusedWithABox) {
     EXPECT_EQ(StatusText("device"), "bench device connected");
 }
 
+TEST_F(MainWindowTest, DisconnectPressedDuringARefreshIsDropped) {
+    simulator::DeviceDescription slow = HealthyDevice();
+    slow.latency.operationsMs["ProgrammingDeviceControl.GetFileListing"] = 60;
+    Start(simulator::CDevice::Create(slow));
+    bool wasPressed = false;
+    QTimer trial;
+    QObject::connect(&trial, &QTimer::timeout, [&] {
+        if (StatusText("operation").find("Get file listing") == std::string::npos) {
+            return;
+        }
+        trial.stop();
+        wasPressed = true;
+        Find<QPushButton>("disconnect").click();
+        Devices().setCurrentRow(1);
+        Find<QPushButton>("connect").click();
+    });
+    trial.start(1);
+    ExpectIdle();
+    EXPECT_TRUE(wasPressed);
+    EXPECT_EQ(StatusText("device"), "bench device connected");
+}
+
 TEST_F(MainWindowTest, CloseDuringARefreshWaitsForItsEnd) {
     simulator::DeviceDescription slow = HealthyDevice();
     slow.latency.operationsMs["ProgrammingDeviceControl.GetFileListing"] = 500;
