@@ -40,9 +40,10 @@ CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesyste
     });
     m_devices.OnConnect([this](const auto& folder) { Connect(folder); });
     m_devices.OnDisconnect([this] { m_panelHost->Disconnect(); });
-    connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this,
+    // As written: the toolkit's own set of keys depends on the desktop, and some have none to quit.
+    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this,
             [this] { ListDevices(); });
-    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this,
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this,
             [this] { close(); });
     m_status.ShowPolling(m_panelHost->IsPolling());
     ConnectionChanged();
