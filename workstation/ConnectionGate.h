@@ -14,7 +14,7 @@ namespace workstation {
 /// of the connection, until the panel is idle; then does it, one after the other in the order in
 /// which it came, from the event loop and on the user-interface thread.
 ///
-/// As the interceptor of a connection it lets calls through as they are and holds back events, from
+/// As an interceptor of a connection it lets calls through as they are and holds back events, from
 /// whatever thread.
 class CConnectionGate : public QObject, public interception::IInterceptor {
 public:

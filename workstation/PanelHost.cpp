@@ -8,6 +8,7 @@
 #include "contract/host/HostViewControl.h"
 #include "contract/host/Subsystem.h"
 #include "contract/host/SubsystemAccess.h"
+#include "interception/InterceptorChain.h"
 #include "workstation/EventWatch.h"
 
 #include <QApplication>
@@ -69,7 +70,8 @@ CPanelHost::CPanelHost(std::shared_ptr<contract::IPanel> panel, IPanelHostObserv
       m_worker(std::make_shared<CWorkerInterceptor>(observer)),
       m_gate(std::make_shared<CConnectionGate>([this] { return IsPanelBusy(); })),
       m_deviceSide(m_worker),
-      m_connectionSide(m_gate),
+      m_connectionSide(std::make_shared<interception::CInterceptorChain>(
+          interception::CInterceptorChain::Links{m_worker, m_gate})),
       m_access(m_deviceSide.Wrap(m_host.SubsystemAccess())),
       m_connection(m_connectionSide.Wrap(m_host.Connection())),
       m_panel(std::move(panel)) {

@@ -36,9 +36,10 @@ public:
 /// One panel and the host around it, for the life of a window.
 ///
 /// Devices come and go behind one subsystem and one control, since a panel keeps the first control
-/// that it gets. Device calls run on a worker; states of the connection reach the panel only while
-/// it is idle. No command of the panel starts while another one, or a refresh, waits for the device
-/// or for an answer of the user's; only what it asks can be answered. User-interface thread only.
+/// that it gets. Device and connection calls run on a worker; states of the connection reach the
+/// panel only while it is idle. No command of the panel starts while another one, or a refresh,
+/// waits for the device or for an answer of the user's; only what it asks can be answered.
+/// User-interface thread only.
 class CPanelHost {
 public:
     /// `panel` is released at the host's end; `observer` must outlive the host.
@@ -95,6 +96,9 @@ private:
     simulator::CHost m_host;
     const std::shared_ptr<CWorkerInterceptor> m_worker;
     const std::shared_ptr<CConnectionGate> m_gate;
+    // Subsystems and connection ask about the device, so their calls go to the worker, where they
+    // wait for their turn. The context is handed over as it is: it and what it delivers (view
+    // control, message service) are the window's own, answer at once and touch widgets.
     const interception::CInterception m_deviceSide;
     const interception::CInterception m_connectionSide;
     const std::shared_ptr<contract::ISubsystemAccess> m_access;

@@ -19,9 +19,12 @@
 
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
+using testing::StartsWith;
 
 /// Keeps what a panel's host tells.
 class RecordingObserver : public workstation::IPanelHostObserver {
@@ -169,7 +172,23 @@ TEST_F(PanelHostTest, SlowDeviceIsReportedWhileItWorks) {
     simulator::DeviceDescription slow = HealthyDevice();
     slow.latency.operationsMs["ProgrammingDeviceControl.GetFileListing"] = 60;
     StartWith(simulator::CDevice::Create(slow));
-    EXPECT_THAT(m_observer.m_lasting, testing::Contains("ProgrammingDeviceControl.GetFileListing"));
+    EXPECT_THAT(m_observer.m_lasting, Contains("ProgrammingDeviceControl.GetFileListing"));
+}
+
+TEST_F(PanelHostTest, SlowConnectionKeepsTheWindowPainted) {
+    simulator::DeviceDescription slow = HealthyDevice();
+    slow.latency.operationsMs["ConnectionState.IsConnected"] = 60;
+    StartWith(simulator::CDevice::Create(slow));
+    EXPECT_THAT(m_observer.m_lasting, Contains("ConnectionState.IsConnected"));
+    EXPECT_EQ(Refreshes(), 1);
+}
+
+TEST_F(PanelHostTest, CallsOfTheContextStayWithTheWindow) {
+    StartWith(MakeDevice());
+    Control<QPushButton>(230)->click();
+    EXPECT_EQ(m_observer.m_closeRequests, 1);
+    EXPECT_THAT(m_observer.m_calls, Not(Contains(StartsWith("Context."))));
+    EXPECT_THAT(m_observer.m_calls, Not(Contains(StartsWith("HostViewControl."))));
 }
 
 TEST_F(PanelHostTest, DeviceMessagesAreReportedAsProgress) {
