@@ -192,26 +192,14 @@ void CKRX8Maintenance::OnDeviceMessage(const std::string& text, std::uint32_t do
     m_deviceEvents.OnDeviceMessage(text, done, total);
 }
 
-void CKRX8Maintenance::OnConnectionStateChanged(Status status, std::int32_t state) {
-    OnConnectionEvent(status, state);
-    if (status.IsFailure()) {
-        return;
-    }
-    if (state == contract::kConnectionDeviceGone) {
-        OnDeviceDisconnected();
-    } else if (state == contract::kConnectionDeviceReady) {
-        OnDeviceConnected();
-    }
+void CKRX8Maintenance::OnDeviceConnected() {
+    m_output.ClearStatusLog();
+    m_typeReader.ReadDeviceType();
 }
 
 void CKRX8Maintenance::OnDeviceDisconnected() {
     m_controls.EnableDeviceControls(false);
     m_state.deviceMode = DeviceMode::NotYetKnown;
-}
-
-void CKRX8Maintenance::OnDeviceConnected() {
-    m_output.ClearStatusLog();
-    m_typeReader.ReadDeviceType();
 }
 
 }

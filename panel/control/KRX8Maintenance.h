@@ -40,7 +40,6 @@ class CKRX8Maintenance final : public contract::IPanel,
                                public CProgrammingDeviceClientImpl<CKRX8Maintenance>,
                                public IConnectionClientImpl2<CKRX8Maintenance>,
                                public IDeviceEventHandler,
-                               public IConnectionEventHandler,
                                public IDialogHandler,
                                public std::enable_shared_from_this<CKRX8Maintenance> {
     struct Private {};
@@ -66,16 +65,17 @@ public:
     void OnListRightClick(ControlId list, Point screen) override;
     void OnHelp(std::uint32_t context) override;
 
-    // Device and connection events
+    // Device events
     void OnModeChanged(std::int32_t mode) override;
     void OnDeviceMessage(const std::string& text, std::uint32_t done, std::uint32_t total) override;
-    void OnConnectionStateChanged(contract::Status status, std::int32_t state) override;
 
-    // Hooks of the connection: places for a panel that has something to do there. This one does
-    // not.
+    // The connection. The first three are places for a panel that has something to do there; this
+    // one does not.
     void OnAfterAttach() {}
     void OnBeforeDetach() {}
     void OnConnectionEvent(contract::Status, std::int32_t) {}
+    void OnDeviceConnected();
+    void OnDeviceDisconnected();
 
     // Handlers of the command table
     void OnViewCreated(const Notification&);
@@ -101,8 +101,6 @@ private:
     bool InitializePanel();
     void LayoutPanel(std::uint16_t width, std::uint16_t height);
     void ClosePanel();
-    void OnDeviceConnected();
-    void OnDeviceDisconnected();
 
     std::unique_ptr<IToolkit> m_toolkit;
     CPanelView m_view;

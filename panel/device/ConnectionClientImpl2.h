@@ -1,23 +1,28 @@
 #pragma once
 
 #include "contract/host/Connection.h"
+#include "contract/host/ExtConnectionEvents.h"
 #include "contract/panel/ConnectionClient.h"
 #include "panel/control/Call.h"
 #include "panel/device/KVL32ExtConnectionEvents.h"
 
+#include <cstdint>
 #include <memory>
 #include <mutex>
 #include <utility>
 
 namespace panel {
 
-/// Holds the host's connection and its event subscription, mixed into `Derived`, which offers
-/// Self(), OnAfterAttach() and OnBeforeDetach().
+/// Holds the host's connection and its event subscription, and says what its events mean; mixed
+/// into `Derived`, which offers Self() and what it does about them: OnAfterAttach(),
+/// OnBeforeDetach(), OnConnectionEvent(status, state), OnDeviceConnected() and
+/// OnDeviceDisconnected().
 ///
 /// The lock guards the two references only. It is recursive because the connection is queried under
 /// it, and a host may call the panel back from there on the same thread.
 template <class Derived>
-class IConnectionClientImpl2 : public virtual contract::IConnectionClient {
+class IConnectionClientImpl2 : public virtual contract::IConnectionClient,
+                               public IConnectionEventHandler {
 public:
     contract::Status SetConnection(const std::shared_ptr<contract::IConnection>& connection) final {
         const auto self = static_cast<Derived*>(this)->Self();
@@ -29,6 +34,21 @@ public:
             }
         }
         return contract::kSuccess;
+    }
+
+    /// Every change comes to OnConnectionEvent first, also one that failed, of which nothing else
+    /// is made.
+    void OnConnectionStateChanged(contract::Status status, std::int32_t state) final {
+        Derived& derived = *static_cast<Derived*>(this);
+        derived.OnConnectionEvent(status, state);
+        if (status.IsFailure()) {
+            return;
+        }
+        if (state == contract::kConnectionDeviceGone) {
+            derived.OnDeviceDisconnected();
+        } else if (state == contract::kConnectionDeviceReady) {
+            derived.OnDeviceConnected();
+        }
     }
 
     std::uint32_t ConnectionCookie() const {

@@ -1,8 +1,10 @@
+// The connection of the panel; the hooks and what events mean are in
+// ConnectionClientImpl2EventsTest.cpp.
+
 #include "panel/device/ConnectionClientImpl2.h"
 
 #include "tests/support/PanelFixture.h"
 
-#include <functional>
 #include <ostream>
 
 namespace {
@@ -258,59 +260,6 @@ TEST_F(ConnectionClientImpl2Test, ConnectionSetWhileTheOldOneIsDetachedKeepsOutT
     EXPECT_EQ(otherHost.ConnectionSubscriberCount(), 1u);
     EXPECT_EQ(SetConnection(nullptr), contract::kSuccess);
     EXPECT_EQ(otherHost.ConnectionSubscriberCount(), 0u);
-}
-
-// The hooks, which the panel itself leaves empty
-
-class CClientWithHooks final : public IConnectionClientImpl2<CClientWithHooks>,
-                               public IConnectionEventHandler,
-                               public std::enable_shared_from_this<CClientWithHooks> {
-public:
-    ~CClientWithHooks() { Detach(); }
-
-    std::shared_ptr<CClientWithHooks> Self() { return shared_from_this(); }
-    void OnAfterAttach() { onHook("after attach"); }
-    void OnBeforeDetach() { onHook("before detach"); }
-    void OnConnectionStateChanged(Status, std::int32_t) override {}
-
-    std::function<void(const std::string&)> onHook;
-};
-
-class ConnectionHooksTest : public ConnectionClientImpl2Test {
-protected:
-    void SetUp() override {
-        client->onHook = [this](const std::string& hook) {
-            seen.push_back(hook + " with " + std::to_string(host.ConnectionSubscriberCount()));
-        };
-    }
-    void TearDown() override {
-        client.reset();
-        ConnectionClientImpl2Test::TearDown();
-    }
-
-    std::shared_ptr<CClientWithHooks> client = std::make_shared<CClientWithHooks>();
-    std::vector<std::string> seen;
-};
-
-TEST_F(ConnectionHooksTest, AttachHookRunsOnceSubscribed) {
-    EXPECT_EQ(client->SetConnection(connection), contract::kSuccess);
-    EXPECT_THAT(seen, ElementsAre("after attach with 1"));
-}
-
-TEST_F(ConnectionHooksTest, DetachHookRunsWhileStillSubscribed) {
-    EXPECT_EQ(client->SetConnection(connection), contract::kSuccess);
-    seen.clear();
-    EXPECT_EQ(client->SetConnection(nullptr), contract::kSuccess);
-    EXPECT_EQ(client->SetConnection(nullptr), contract::kSuccess);
-    EXPECT_THAT(seen, ElementsAre("before detach with 1"));
-}
-
-TEST_F(ConnectionHooksTest, ClientsEndDetachesOnce) {
-    EXPECT_EQ(client->SetConnection(connection), contract::kSuccess);
-    seen.clear();
-    client.reset();
-    EXPECT_THAT(seen, ElementsAre("before detach with 1"));
-    EXPECT_EQ(host.ConnectionSubscriberCount(), 0u);
 }
 
 }
