@@ -93,8 +93,12 @@ void CKRX8Maintenance::DestroyView() {
 }
 
 void CKRX8Maintenance::Arrive(const Notification& notification) {
-    const auto self = Self();
-    Dispatch(*this, notification);
+    // A front end may have something to tell to the last. A panel that has let go of its view, and
+    // one that is itself going, hears no more of it.
+    const auto self = weak_from_this().lock();
+    if (self && m_view.Exists()) {
+        Dispatch(*this, notification);
+    }
 }
 
 void CKRX8Maintenance::OnInit(IView& view) {
