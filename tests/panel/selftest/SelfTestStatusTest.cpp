@@ -1,3 +1,7 @@
+// The summary of the self-tests; the Details command is in SelfTestDetailsTest.cpp.
+
+#include "panel/selftest/SelfTestStatus.h"
+
 #include "tests/support/RoomFixture.h"
 
 namespace {
@@ -18,8 +22,6 @@ DeviceDescription DeviceWithResult(SelfTest test, std::int32_t code) {
 Shown CannotGetResults(contract::Status status, const std::string& description = "") {
     return ErrorReport("Cannot get self-test results", "Prommer Maintenance", status, description);
 }
-
-// The query of the refresh
 
 class SelfTestStatusTest : public RoomFixture {
 protected:
@@ -157,131 +159,5 @@ TEST_P(FailingResultTest, FailingResultIsReportedOnceAndEndsTheQuery) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Queries, FailingResultTest, testing::Values(1u, 5u, 21u));
-
-// The Details command
-
-class DetailsTest : public PanelFixture {
-protected:
-    void SetUp() override {
-        StartPanel();
-        ConnectDevice(DeviceWithResult(SelfTest::Usb, 1));
-        ForgetWhatWasSeen();
-    }
-
-    /// Runs inside the next reading of the results; the refresh has read them once already.
-    void InsideReading(std::function<void()> action) {
-        faults->RunBefore({2, "ProgrammingDeviceControl.GetSelfTestResults"}, std::move(action));
-    }
-    void FailReading() {
-        faults->Fail({2, "ProgrammingDeviceControl.GetSelfTestResults"},
-                     {contract::kUnspecifiedFailure, "still testing"});
-    }
-};
-
-TEST_F(DetailsTest, PressingDetailsShowsTheDialogOverThePanel) {
-    desktop->prompts.AnswerDialog();
-    ASSERT_TRUE(PressButton(kDetailsButton));
-    EXPECT_THAT(desktop->prompts.Dialogs(),
-                ElementsAre(headless::ShownDialog{201, Owner::Panel, DialogOutcome::Closed(2)}));
-    EXPECT_THAT(TakeMessages(), IsEmpty());
-    EXPECT_THAT(Log(), IsEmpty());
-}
-
-TEST_F(DetailsTest, DetailsReadsTheResultsAnew) {
-    desktop->prompts.AnswerDialog();
-    PressButton(kDetailsButton);
-    const auto calls = TakeCalls();
-    ASSERT_EQ(calls.size(), 22u);
-    EXPECT_EQ(calls.front(), "ProgrammingDeviceControl.GetSelfTestResults");
-    EXPECT_THAT(std::vector(calls.begin() + 1, calls.end()),
-                testing::Each("SelfTestResults.GetResult"));
-}
-
-TEST_F(DetailsTest, RefreshIsHeldBackWhileResultsAreReadOnly) {
-    std::vector<bool> isAllowed;
-    InsideReading([&] { isAllowed.push_back(State().refreshAllowed); });
-    desktop->prompts.AnswerDialog(
-        [&](headless::CHeadlessView&) { isAllowed.push_back(State().refreshAllowed); });
-    PressButton(kDetailsButton);
-    EXPECT_THAT(isAllowed, ElementsAre(false, true));
-}
-
-TEST_F(DetailsTest, WaitCursorShowsWhileResultsAreReadOnly) {
-    std::vector<int> depths;
-    InsideReading([&] { depths.push_back(desktop->cursorDepth); });
-    desktop->prompts.AnswerDialog(
-        [&](headless::CHeadlessView&) { depths.push_back(desktop->cursorDepth); });
-    PressButton(kDetailsButton);
-    EXPECT_THAT(depths, ElementsAre(1, 0));
-}
-
-TEST_F(DetailsTest, ReadyStateWhileResultsAreReadStartsNoRefresh) {
-    InsideReading([this] { RaiseState(7); });
-    desktop->prompts.AnswerDialog();
-    PressButton(kDetailsButton);
-    EXPECT_EQ(faults->Calls("HardwareInfo.GetDeviceType"), 2u);
-    EXPECT_EQ(faults->Calls("ProgrammingDeviceControl.GetFileListing"), 1u);
-    EXPECT_EQ(desktop->highestCursorDepth, 2);
-}
-
-TEST_F(DetailsTest, ReadyStateWhileTheDialogIsOpenRefreshes) {
-    desktop->prompts.AnswerDialog([this](headless::CHeadlessView&) { RaiseState(7); });
-    PressButton(kDetailsButton);
-    EXPECT_EQ(faults->Calls("ProgrammingDeviceControl.GetFileListing"), 2u);
-    EXPECT_EQ(RowCount(), 3);
-}
-
-TEST_F(DetailsTest, FailingResultsAreReportedWithoutDialog) {
-    FailReading();
-    PressButton(kDetailsButton);
-    EXPECT_THAT(TakeMessages(),
-                ElementsAre(CannotGetResults(contract::kUnspecifiedFailure, "still testing")));
-    EXPECT_THAT(desktop->prompts.Dialogs(), IsEmpty());
-    EXPECT_TRUE(State().refreshAllowed);
-}
-
-TEST_F(DetailsTest, NullResultsAreReportedWithoutDialog) {
-    faults->DeliverNull({2, "ProgrammingDeviceControl.GetSelfTestResults"});
-    PressButton(kDetailsButton);
-    EXPECT_THAT(TakeMessages(),
-                ElementsAre(CannotGetResults(contract::Status::FromBits(0x80004003))));
-    EXPECT_THAT(desktop->prompts.Dialogs(), IsEmpty());
-}
-
-TEST_F(DetailsTest, CursorIsRestoredWhileAFailureIsShown) {
-    int depth = -1;
-    messageService->whileOpen = [&] { depth = desktop->cursorDepth; };
-    FailReading();
-    PressButton(kDetailsButton);
-    EXPECT_EQ(depth, 0);
-}
-
-TEST_F(DetailsTest, ResultsAreHeldForTheDialogAndThenReleased) {
-    const auto wrappers = interception.LiveWrappers();
-    std::size_t whileOpen = 0;
-    desktop->prompts.AnswerDialog(
-        [&](headless::CHeadlessView&) { whileOpen = interception.LiveWrappers(); });
-    PressButton(kDetailsButton);
-    EXPECT_EQ(whileOpen, wrappers + 1);
-    EXPECT_EQ(interception.LiveWrappers(), wrappers);
-}
-
-TEST_F(DetailsTest, DialogThatCannotBeMadeLeavesNothingBehind) {
-    const auto wrappers = interception.LiveWrappers();
-    desktop->prompts.FailDialog(1407);
-    PressButton(kDetailsButton);
-    EXPECT_THAT(TakeMessages(), IsEmpty());
-    EXPECT_EQ(interception.LiveWrappers(), wrappers);
-    EXPECT_TRUE(State().refreshAllowed);
-}
-
-TEST_F(DetailsTest, PanelMayEndWhileTheDialogIsOpen) {
-    desktop->prompts.AnswerDialog([this](headless::CHeadlessView&) {
-        panel->DestroyView();
-        panel.reset();
-    });
-    PressButton(kDetailsButton);
-    EXPECT_EQ(interception.LiveWrappers(), 0u);
-}
 
 }
