@@ -29,8 +29,8 @@ public:
         if (registered.IsFailure()) {
             return registered;
         }
-        // The host may have set another context from inside that.
-        if (m_context == context) {
+        // From inside that the host may have set another context, or this one again.
+        if (m_context == context && m_cookie == kNotRegistered) {
             m_cookie = cookie;
         } else {
             Unregister(context, cookie);

@@ -2,6 +2,8 @@
 
 #include "tests/support/PanelFixture.h"
 
+#include <functional>
+
 namespace {
 
 using namespace panel;
@@ -19,6 +21,10 @@ public:
     Status Register(const std::shared_ptr<contract::IContextMember>& member,
                     std::uint32_t& cookie) override {
         members.push_back(member.get());
+        if (whileRegistering) {
+            const auto run = whileRegistering;
+            run();
+        }
         if (status.IsSuccess()) {
             cookie = nextCookie++;
         }
@@ -38,6 +44,8 @@ public:
 
     Status status;
     std::uint32_t nextCookie = 77;
+    /// Runs inside Register, before the cookie is given.
+    std::function<void()> whileRegistering;
     std::vector<contract::IContextMember*> members;
     std::vector<std::uint32_t> unregistered;
     int queries = 0;
@@ -142,6 +150,56 @@ TEST_F(ContextMemberImplTest, RegisteringTwiceGivesTheFirstCookieBack) {
     EndPanel();
     EXPECT_THAT(context->unregistered, ElementsAre(77u, 78u));
     EXPECT_EQ(context.use_count(), 1);
+}
+
+TEST_F(ContextMemberImplTest, PlainFormOfTheSameContextKeepsTheRegistration) {
+    EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
+    EXPECT_EQ(panel->SetContext(context), contract::kSuccess);
+    EXPECT_THAT(context->unregistered, IsEmpty());
+    EndPanel();
+    EXPECT_THAT(context->unregistered, ElementsAre(77u));
+}
+
+TEST_F(ContextMemberImplTest, RefusalByAnotherContextLeavesTheFirstAllTheSame) {
+    EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
+    another->status = kFailure;
+    EXPECT_EQ(panel->SetContextAndRegister(another), kFailure);
+    EXPECT_THAT(context->unregistered, ElementsAre(77u));
+    EXPECT_EQ(context.use_count(), 1);
+    EXPECT_EQ(another.use_count(), 2);
+    EndPanel();
+    EXPECT_THAT(another->unregistered, IsEmpty());
+}
+
+TEST_F(ContextMemberImplTest, CookieOfZeroIsNeverGivenBack) {
+    context->nextCookie = 0;
+    EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
+    EndPanel();
+    EXPECT_EQ(context->members.size(), 1u);
+    EXPECT_THAT(context->unregistered, IsEmpty());
+}
+
+TEST_F(ContextMemberImplTest, RegisteringAgainWhileRegisteringGivesOneCookieBack) {
+    context->whileRegistering = [this] {
+        context->whileRegistering = {};
+        EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
+    };
+    EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
+    EXPECT_THAT(context->unregistered, ElementsAre(78u));
+    EndPanel();
+    EXPECT_THAT(context->unregistered, ElementsAre(78u, 77u));
+}
+
+TEST_F(ContextMemberImplTest, AnotherContextWhileRegisteringStays) {
+    context->whileRegistering = [this] {
+        EXPECT_EQ(panel->SetContextAndRegister(another), contract::kSuccess);
+    };
+    EXPECT_EQ(panel->SetContextAndRegister(context), contract::kSuccess);
+    EXPECT_THAT(context->unregistered, ElementsAre(77u));
+    EXPECT_EQ(context.use_count(), 1);
+    EndPanel();
+    EXPECT_THAT(context->unregistered, ElementsAre(77u));
+    EXPECT_THAT(another->unregistered, ElementsAre(77u));
 }
 
 TEST_F(ContextMemberImplTest, RegistrationFollowsTheLatestContext) {
