@@ -22,6 +22,11 @@ struct PixelSize {
 /// it releases the panel (a panel released with its view takes it along). Everything happens on the
 /// user-interface thread. The panel may be released from inside any of its own calls or events: it
 /// lives until they have returned.
+///
+/// No operation of the contract throws: neither these, nor those of the objects that a host hands
+/// over, since the panel catches nothing that comes out of them. Only memory that runs out makes an
+/// exception (std::bad_alloc), and a host lets that end the program. A component that offers the
+/// panel over a binary boundary lets no exception pass its edge.
 class IPanel : public virtual IContextMember,
                public virtual IConnectionClient,
                public virtual ISetSubsystemAccess,
