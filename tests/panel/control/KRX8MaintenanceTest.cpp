@@ -87,6 +87,15 @@ TEST_F(KRX8MaintenanceTest, ViewThatCannotBeMadeMayBeTriedAgain) {
     EXPECT_NE(desktop->windows.PanelView(), nullptr);
 }
 
+TEST_F(KRX8MaintenanceTest, ViewWithinTheViewsCreationIsRefused) {
+    faults->RunBefore({1, "Context.QueryHostViewControl"}, [this] {
+        EXPECT_EQ(panel->CreateView(nullptr), contract::Status::FromBits(0x80004005));
+    });
+    StartView();
+    EXPECT_EQ(faults->Calls("Context.QueryHostViewControl"), 1u);
+    EXPECT_EQ(View().Captures().size(), 21u);
+}
+
 TEST_F(KRX8MaintenanceTest, ViewDestroyedWhileItIsMadeIsGone) {
     faults->RunBefore({1, "Context.QueryHostViewControl"}, [this] { panel->DestroyView(); });
     ASSERT_EQ(panel->SetContext(interception.Wrap(host.Context())), contract::kSuccess);

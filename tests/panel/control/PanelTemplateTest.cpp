@@ -90,6 +90,7 @@ TEST(PanelTemplateTest, LabelsStandTopToBottomBesideTheirFields) {
         EXPECT_STREQ(label.text, pair.text);
         EXPECT_EQ(label.kind, Label);
         EXPECT_EQ(field.kind, pair.kind);
+        EXPECT_EQ(label.state, Enabled);
         EXPECT_EQ(label.rectangle.x, 14);
         EXPECT_EQ(field.rectangle, (Rectangle{69, field.rectangle.y, 60, 12}));
         EXPECT_LE(label.rectangle.Right(), field.rectangle.x);

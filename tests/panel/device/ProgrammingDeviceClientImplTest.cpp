@@ -132,6 +132,12 @@ INSTANTIATE_TEST_SUITE_P(
                     NullStep{"ProgrammingDeviceControl.QueryBaseObject", kInterfaceMissing},
                     NullStep{"ProgrammingDeviceControlEvents.FindEventSource", kPointerMissing}));
 
+TEST_F(ProgrammingDeviceClientImplTest, WarningOfTheSubscriptionIsTheResult) {
+    faults->Fail({1, "ProgrammingDeviceControlEvents.Subscribe"}, {.status = Status(1)});
+    EXPECT_EQ(SetAccess(), Status(1));
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
 TEST_F(ProgrammingDeviceClientImplTest, FailedSubscriptionLeavesAPanelThatOnlyHearsNothing) {
     faults->Fail({1, "ProgrammingDeviceControlEvents.Subscribe"}, {.status = kDenied});
     EXPECT_EQ(SetAccess(), kDenied);
