@@ -72,7 +72,7 @@ void CDevicePane::ShowDevices(const std::vector<Folder>& folders) {
     for (const Folder& folder : folders)
         m_list.addItem(ItemOf(folder));
     Choose(chosen);
-    Mark(m_connected);
+    Mark(m_connected, m_isGone);
 }
 
 void CDevicePane::Choose(const Folder& folder) {
@@ -81,14 +81,21 @@ void CDevicePane::Choose(const Folder& folder) {
             m_list.setCurrentRow(row);
 }
 
-void CDevicePane::Mark(const Folder& connected) {
+void CDevicePane::Mark(const Folder& connected, bool isGone) {
     m_connected = connected;
+    m_isGone = isGone;
     for (int row = 0; row < m_list.count(); ++row) {
+        QListWidgetItem& item = *m_list.item(row);
         QFont font = m_list.font();
-        font.setBold(!connected.empty() && FolderOf(*m_list.item(row)) == connected);
-        m_list.item(row)->setFont(font);
+        font.setBold(IsConnected(item));
+        item.setFont(font);
+        item.setText(NameOf(FolderOf(item)) + (IsConnected(item) && isGone ? " (gone)" : ""));
     }
     UpdateButtons();
+}
+
+bool CDevicePane::IsConnected(const QListWidgetItem& item) const {
+    return !m_connected.empty() && FolderOf(item) == m_connected;
 }
 
 void CDevicePane::ConnectCurrent() {
@@ -98,7 +105,10 @@ void CDevicePane::ConnectCurrent() {
 }
 
 void CDevicePane::UpdateButtons() {
-    m_connectButton.setEnabled(m_list.currentItem());
+    const QListWidgetItem* const current = m_list.currentItem();
+    const bool bringsBack = current && m_isGone && IsConnected(*current);
+    m_connectButton.setText(bringsBack ? "Rec&onnect" : "C&onnect");
+    m_connectButton.setEnabled(current);
     m_disconnectButton.setEnabled(!m_connected.empty());
 }
 

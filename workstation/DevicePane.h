@@ -7,6 +7,7 @@
 #include <vector>
 
 class QListWidget;
+class QListWidgetItem;
 class QPushButton;
 
 namespace workstation {
@@ -29,11 +30,13 @@ public:
     void ShowDevices(const std::vector<Folder>& folders);
     /// Makes a folder the current one.
     void Choose(const Folder& folder);
-    /// Marks the folder of the device that is connected; an empty one marks none.
-    void Mark(const Folder& connected);
+    /// Marks the folder of the device that is connected, or that was and is gone; an empty one
+    /// marks none. Connecting the one that is gone means bringing it back, and is called so.
+    void Mark(const Folder& connected, bool isGone = false);
 
 private:
     void ConnectCurrent();
+    bool IsConnected(const QListWidgetItem& item) const;
     void UpdateButtons();
 
     QListWidget& m_list;
@@ -41,6 +44,7 @@ private:
     QPushButton& m_disconnectButton;
     std::function<void(const Folder&)> m_connect;
     Folder m_connected;
+    bool m_isGone = false;
 };
 
 }

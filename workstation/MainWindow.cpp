@@ -95,7 +95,7 @@ void CMainWindow::ConnectionChanged() {
     const std::filesystem::path folder = m_panelHost->DeviceName();
     const QString name = folder.empty() ? QString() : NameOf(folder);
     m_status.ShowDevice(name, m_panelHost->IsConnected());
-    m_devices.Mark(folder);
+    m_devices.Mark(folder, !m_panelHost->IsConnected());
     setWindowTitle(name.isEmpty() ? QString(kTitle) : QString(kTitle) + " - " + name);
 }
 
@@ -118,6 +118,10 @@ void CMainWindow::BuildLayout() {
 }
 
 void CMainWindow::Connect(const std::filesystem::path& folder) {
+    if (folder == m_panelHost->DeviceName() && !m_panelHost->IsConnected()) {
+        m_panelHost->Reconnect();
+        return;
+    }
     const auto opened = simulator::OpenDevice(folder);
     if (const auto* error = std::get_if<simulator::DescriptionError>(&opened)) {
         QMessageBox box(QMessageBox::Warning, "Connect", {}, QMessageBox::Ok, this);

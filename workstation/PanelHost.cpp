@@ -104,6 +104,13 @@ void CPanelHost::Disconnect() {
     RunWhenIdle([this] { Swap({}, nullptr); });
 }
 
+void CPanelHost::Reconnect() {
+    RunWhenIdle([this] {
+        const CConnectionGate::COpening opening(*m_gate);
+        m_host.BringBackLostDevice();
+    });
+}
+
 // Handlers run at level 1 of the event loop; a deeper one means that a command, or one of its
 // boxes, menus and device calls, waits below. Boxes are asked for as well, since a program without
 // a main loop (a test) counts from one level less.
@@ -122,6 +129,10 @@ void CPanelHost::HandOver(const std::string& name, std::shared_ptr<simulator::CD
     static_cast<void>(m_panel->SetConnection(m_connection));
     WatchConnection();
     WatchProgress();
+    if (m_isConnected && !m_host.Device()) {
+        // Lost before anybody could hear of it.
+        OnConnectionState(contract::kConnectionDeviceGone);
+    }
     // The start signal has the panel read a device that is there, so it gets no state 7 for it.
     static_cast<void>(m_panel->Go());
 }

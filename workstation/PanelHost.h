@@ -62,6 +62,8 @@ public:
     /// Connects a device, in place of the one that is connected. After Start.
     void Connect(std::string name, std::shared_ptr<simulator::CDevice> device);
     void Disconnect();
+    /// Has a lost device come back, as it is; nothing when none is lost.
+    void Reconnect();
     /// Does something of the caller's.
     void RunWhenIdle(CConnectionGate::Action action) { m_gate->RunWhenIdle(std::move(action)); }
 

@@ -98,4 +98,22 @@ TEST_F(DevicePaneTest, MarkMovesToAnotherDevice) {
     EXPECT_FALSE(Button("disconnect").isEnabled());
 }
 
+TEST_F(DevicePaneTest, LostDeviceIsCalledGoneAndCanBeReconnected) {
+    m_pane.Choose("/devices/second");
+    m_pane.Mark("/devices/second", true);
+    EXPECT_THAT(Names(), ElementsAre("first", "second (gone)"));
+    EXPECT_EQ(Button("connect").text(), "Rec&onnect");
+    EXPECT_TRUE(Button("disconnect").isEnabled());
+    m_pane.Choose("/devices/first");
+    EXPECT_EQ(Button("connect").text(), "C&onnect");
+}
+
+TEST_F(DevicePaneTest, LostDeviceStaysGoneInANewListing) {
+    m_pane.Mark("/devices/second", true);
+    m_pane.ShowDevices({"/devices/second"});
+    EXPECT_THAT(Names(), ElementsAre("second (gone)"));
+    m_pane.Mark("/devices/second");
+    EXPECT_THAT(Names(), ElementsAre("second"));
+}
+
 }

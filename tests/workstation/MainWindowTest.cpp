@@ -124,6 +124,22 @@ TEST_F(MainWindowTest, DisconnectButtonDisconnects) {
     EXPECT_EQ(m_window->windowTitle(), "KRX-8 Maintenance Workstation");
 }
 
+TEST_F(MainWindowTest, LostDeviceIsShownAsGoneAndComesBackWhenChosenAgain) {
+    simulator::DeviceDescription leaving = HealthyDevice();
+    leaving.loss = simulator::DeviceLoss{"ProgrammingDeviceControl.GetFileListing", 1, {}};
+    Start(simulator::CDevice::Create(leaving));
+    ExpectIdle();
+    EXPECT_EQ(Devices().item(0)->text(), "bench device (gone)");
+    EXPECT_EQ(Find<QPushButton>("connect").text(), "Rec&onnect");
+    EXPECT_EQ(StatusText("device"), "bench device does not answer");
+    emit Devices().itemActivated(Devices().item(0));
+    ExpectIdle();
+    EXPECT_EQ(Devices().item(0)->text(), "bench device");
+    EXPECT_EQ(Find<QPushButton>("connect").text(), "C&onnect");
+    EXPECT_EQ(StatusText("device"), "bench device connected");
+    EXPECT_THAT(Picture().rows, SizeIs(2));
+}
+
 TEST_F(MainWindowTest, DamagedDeviceIsRefusedWithABox) {
     Start(MakeDevice());
     std::filesystem::remove(Root() / "krx-8" / "device.json");

@@ -72,6 +72,13 @@ protected:
         EXPECT_TRUE(Until([this] { return m_panelHost.IsIdle(); }));
     }
 
+    /// Three files, and gone for good in the first call of that operation.
+    static std::shared_ptr<simulator::CDevice> LeavingDevice(const char* operation) {
+        simulator::DeviceDescription leaving = HealthyDevice(3);
+        leaving.loss = simulator::DeviceLoss{operation, 1, {}};
+        return simulator::CDevice::Create(leaving);
+    }
+
     auto Refreshes() const { return m_observer.CountOf("SoftwareInfo.GetBootSwVersion"); }
     template <class Widget = QWidget>
     Widget* Control(int id) const {
@@ -155,6 +162,36 @@ TEST_F(PanelHostTest, DeviceLostDuringARefreshIsGoneAfterIt) {
     EXPECT_FALSE(m_panelHost.IsConnected());
     EXPECT_FALSE(Control(224)->isEnabled());
     EXPECT_THAT(m_boxes, SizeIs(1)) << "the report of the listing that failed";
+}
+
+TEST_F(PanelHostTest, ReconnectBringsALostDeviceBackAndReadsIt) {
+    StartWith(LeavingDevice("ProgrammingDeviceControl.GetFileListing"));
+    EXPECT_EQ(ListedFiles(), 0);
+    m_panelHost.Reconnect();
+    ExpectIdle();
+    EXPECT_TRUE(m_panelHost.IsConnected());
+    EXPECT_TRUE(Control(224)->isEnabled());
+    EXPECT_EQ(Refreshes(), 2);
+    EXPECT_EQ(ListedFiles(), 3);
+}
+
+TEST_F(PanelHostTest, DeviceLostBeforeThePanelListensIsGone) {
+    StartWith(LeavingDevice("ProgrammingDeviceSubsystem.get_ProgrammingDeviceControl"));
+    EXPECT_FALSE(m_panelHost.IsConnected());
+    EXPECT_EQ(m_panelHost.DeviceName(), "first");
+    EXPECT_EQ(Refreshes(), 0);
+}
+
+TEST_F(PanelHostTest, ReconnectWithoutALostDeviceDoesNothing) {
+    StartWith(MakeDevice());
+    m_panelHost.Reconnect();
+    ExpectIdle();
+    EXPECT_EQ(Refreshes(), 1);
+    m_panelHost.Disconnect();
+    m_panelHost.Reconnect();
+    ExpectIdle();
+    EXPECT_FALSE(m_panelHost.IsConnected());
+    EXPECT_EQ(Refreshes(), 1);
 }
 
 TEST_F(PanelHostTest, DeviceThatComesBackIsReadAgainAfterTheRefresh) {

@@ -106,4 +106,29 @@ TEST_F(SessionOrderTest, EndDestroysTheViewBeforeThePanelIsReleased) {
     EXPECT_THAT(m_calls, ElementsAre("DestroyView", "released"));
 }
 
+TEST_F(SessionOrderTest, LostDeviceThatIsReplacedIsNotToldTwice) {
+    simulator::DeviceDescription leaving = HealthyDevice();
+    leaving.loss = simulator::DeviceLoss{"HardwareInfo.GetSerialNumber", 1, {}};
+    StartSilently(nullptr);
+    m_panelHost->Connect("leaving", simulator::CDevice::Create(leaving));
+    ExpectIdle();
+    m_panelHost->Connect("second", Device(2));
+    ExpectIdle();
+    EXPECT_THAT(m_calls,
+                ElementsAre("state 7, no device", "state 5, no device", "state 7, device 2"));
+}
+
+TEST_F(SessionOrderTest, ReconnectingALostDeviceTellsState7) {
+    simulator::DeviceDescription leaving = HealthyDevice();
+    leaving.serialNumber = 3;
+    leaving.loss = simulator::DeviceLoss{"HardwareInfo.GetSerialNumber", 1, {}};
+    StartSilently(nullptr);
+    m_panelHost->Connect("leaving", simulator::CDevice::Create(leaving));
+    ExpectIdle();
+    m_panelHost->Reconnect();
+    ExpectIdle();
+    EXPECT_THAT(m_calls,
+                ElementsAre("state 7, no device", "state 5, no device", "state 7, device 3"));
+}
+
 }
