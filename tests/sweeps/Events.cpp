@@ -33,17 +33,30 @@ constexpr Event kInterventions[] = {
     {"another SetSubsystemAccess", [](IStage& stage) { stage.SetOtherSubsystemAccess(); }},
 };
 
+constexpr Event kRepetitions[] = {
+    {"SetContextAndRegister", [](IStage& stage) { stage.SetContextAndRegister(); }},
+    {"another SetContextAndRegister", [](IStage& stage) { stage.SetOtherContextAndRegister(); }},
+    {"another SetContext", [](IStage& stage) { stage.SetOtherContext(); }},
+    {"CreateView", [](IStage& stage) { stage.CreateView(); }},
+    {"another SetConnection", [](IStage& stage) { stage.SetOtherConnection(); }},
+    {"Go", [](IStage& stage) { stage.Go(); }},
+};
+
 }
 
 std::span<const Event> DeviceAndConnectionEvents() { return kEvents; }
 
 std::span<const Event> HostInterventions() { return kInterventions; }
 
+std::span<const Event> HostRepetitions() { return kRepetitions; }
+
 std::vector<const Event*> EventsAndInterventions() {
     std::vector<const Event*> all;
-    for (const auto events : {DeviceAndConnectionEvents(), HostInterventions()}) {
-        for (const Event& event : events)
+    for (const auto events :
+         {DeviceAndConnectionEvents(), HostInterventions(), HostRepetitions()}) {
+        for (const Event& event : events) {
             all.push_back(&event);
+        }
     }
     return all;
 }

@@ -1,13 +1,10 @@
 #include "tests/sweeps/Expectation.h"
 
 #include "interception/Operations.h"
-#include "tests/sweeps/ExpectedConnection.h"
 #include "tests/sweeps/ExpectedRefresh.h"
 #include "tests/sweeps/ExpectedSelfTests.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <iterator>
 #include <utility>
 
 namespace sweeps {
@@ -70,18 +67,35 @@ bool CExpectation::CanShowADevice() const {
 
 // The host
 
-void CExpectation::SetContextAndRegister() {
-    if (m_isReleased)
+void CExpectation::SetContextAndRegister() { Register(Handed::First); }
+
+void CExpectation::SetOtherContextAndRegister() { Register(Handed::Other); }
+
+void CExpectation::Register(Handed context) {
+    if (m_isReleased) {
         return;
+    }
     const CEntry entry(*this);
-    const bool isDone = Call("Context.Register", [this] { held.isRegistered = true; });
-    m_seen.statuses.push_back(isDone ? contract::kSuccess : FailureStatus());
+    m_seen.statuses.push_back(ExpectRegistration(*this, context));
+}
+
+void CExpectation::SetOtherContext() {
+    if (m_isReleased) {
+        return;
+    }
+    const CEntry entry(*this);
+    ExpectContext(*this, Handed::Other);
+    m_seen.statuses.push_back(contract::kSuccess);
 }
 
 void CExpectation::CreateView() {
     if (m_isReleased)
         return;
     const CEntry entry(*this);
+    if (std::exchange(m_hadView, true)) {
+        m_seen.statuses.push_back(contract::kUnspecifiedFailure);
+        return;
+    }
     m_picture = FreshPicture();
     m_isWhole = Call("Context.QueryHostViewControl");
     if (m_picture)
@@ -99,20 +113,18 @@ void CExpectation::SetSubsystemAccess() {
     m_seen.statuses.push_back(status);
 }
 
-void CExpectation::SetConnection() {
-    if (m_isReleased)
-        return;
-    const CEntry entry(*this);
-    if (!held.connection)
-        ExpectAttachment(*this);
-    m_seen.statuses.push_back(contract::kSuccess);
-}
+void CExpectation::SetConnection() { Connect(Handed::First); }
 
-void CExpectation::SetNoConnection() {
-    if (m_isReleased)
+void CExpectation::SetOtherConnection() { Connect(Handed::Other); }
+
+void CExpectation::SetNoConnection() { Connect(Handed::None); }
+
+void CExpectation::Connect(Handed connection) {
+    if (m_isReleased) {
         return;
+    }
     const CEntry entry(*this);
-    ExpectDetachment(*this);
+    ExpectConnection(*this, connection);
     m_seen.statuses.push_back(contract::kSuccess);
 }
 
@@ -148,7 +160,7 @@ void CExpectation::EndPanel() {
 // Events
 
 void CExpectation::RaiseState(Status status, std::int32_t state) {
-    if (m_isGone || !held.hearsConnection || status.IsFailure())
+    if (m_isGone || held.heardConnections.empty() || status.IsFailure())
         return;
     const CEntry entry(*this);
     if (state == 5) {
@@ -245,68 +257,5 @@ void CExpectation::Intrude(Moment moment, std::size_t number) {
     m_callsSpoilt += moment == Moment::BeforeCall || moment == Moment::AfterCall ? 1 : 0;
     event.raise(*this);
 }
-
-void CExpectation::Report(const std::string& text, const std::string& caption) {
-    Show({text, caption, 0x10, m_failure.status.Code(), m_failure.description});
-}
-
-void CExpectation::Warn(const std::string& text, const std::string& caption) {
-    Show({text, caption, 0x30, 0, ""});
-}
-
-void CExpectation::Show(const support::Shown& message) {
-    const auto show = [&] {
-        if (m_plan.failMessageService)
-            return;
-        m_seen.messages.push_back(message);
-        OpenBox();
-    };
-    const bool isAnswered =
-        Call("Context.QueryMessageService") && Call("MessageService.ShowMessage", show);
-    if (!isAnswered || m_plan.failMessageService)
-        ShowPlainBox(message);
-}
-
-void CExpectation::ShowPlainBox(const support::Shown& message) {
-    constexpr std::int32_t kOk = 1;
-    char code[40];
-    std::snprintf(code, sizeof code, "\r\nHRESULT 0x%08x (%d)",
-                  static_cast<unsigned>(message.status), message.status);
-    m_seen.boxes.push_back({message.text + code, message.caption, message.style, kOk});
-    m_prompts.push_back(Prompt::PlainBox);
-    OpenBox();
-}
-
-void CExpectation::OpenBox() {
-    if (m_picture)
-        m_seen.behindBoxes.push_back(*m_picture);
-    Intrude(Moment::WhileBoxOpen, ++m_boxes);
-}
-
-void CExpectation::OpenDialog(DialogRows rows) {
-    m_seen.dialogs.push_back(std::move(rows));
-    m_prompts.push_back(Prompt::Dialog);
-    Intrude(Moment::WhileDialogOpen, ++m_dialogs);
-}
-
-void CExpectation::WriteLine(const std::string& text) { m_log.WritePlain(text, CanReachLog()); }
-
-void CExpectation::SetText(panel::ControlId id, const std::string& text) {
-    // The size fields are the ones that can be reached without an initialised view.
-    constexpr panel::ControlId kReachableById[] = {panel::kFlashSizeField, panel::kFreeFlashField,
-                                                   panel::kRamSizeField, panel::kFreeRamField};
-    const bool isReachable =
-        m_isWhole || std::find(std::begin(kReachableById), std::end(kReachableById), id) !=
-                         std::end(kReachableById);
-    if (m_picture && isReachable)
-        m_picture->texts[id] = text;
-}
-
-void CExpectation::Enable(panel::ControlId id, bool isEnabled) {
-    if (m_picture && m_isWhole)
-        m_picture->enabled[id] = isEnabled;
-}
-
-Picture* CExpectation::List() { return m_picture && m_isWhole ? &*m_picture : nullptr; }
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/DeviceDescription.h"
+#include "tests/sweeps/ExpectedConnection.h"
 #include "tests/sweeps/ExpectedLog.h"
 #include "tests/sweeps/Observation.h"
 #include "tests/sweeps/Plan.h"
@@ -10,6 +11,8 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,10 +46,13 @@ public:
 
     // IStage
     void SetContextAndRegister() override;
+    void SetOtherContext() override;
+    void SetOtherContextAndRegister() override;
     void CreateView() override;
     void SetSubsystemAccess() override;
     void SetOtherSubsystemAccess() override { SetSubsystemAccess(); }
     void SetConnection() override;
+    void SetOtherConnection() override;
     void SetNoConnection() override;
     void Go() override;
     void DestroyView() override;
@@ -91,20 +97,28 @@ public:
     std::uint64_t fillings = 0;
     /// What the panel holds of its host.
     struct {
+        Handed context = Handed::None;
+        /// Known once the call that registers has returned.
         bool isRegistered = false;
         bool subsystem = false;
         bool control = false;
         bool hearsDevice = false;
-        bool connection = false;
+        Handed connection = Handed::None;
         bool connectionState = false;
-        bool hearsConnection = false;
-        /// Known once the call that subscribes has returned.
-        bool connectionCookie = false;
-        std::uint64_t attachments = 0;
+        /// The one of this connection, and how many there were.
+        std::uint64_t subscription = 0;
+        std::uint64_t subscriptions = 0;
+        /// Those by which events come, and those whose cookie is known, as it is once the call that
+        /// subscribes has returned.
+        std::set<std::uint64_t> heardConnections;
+        std::set<std::uint64_t> connectionCookies;
     } held;
 
 private:
     class CEntry;
+
+    void Register(Handed context);
+    void Connect(Handed connection);
 
     struct Failing {
         contract::Status status;
@@ -129,6 +143,7 @@ private:
     Failing m_failure;
     Observation m_seen;
     std::optional<Picture> m_picture;
+    bool m_hadView = false;
     bool m_isWhole = false;
     CExpectedLog m_log;
     bool m_isInserted = false;

@@ -71,4 +71,22 @@ TEST_P(ReentrancySweepTest, AnythingInsideAnOpenDialogIsHandledAtOnce) {
 INSTANTIATE_TEST_SUITE_P(, ReentrancySweepTest, testing::ValuesIn(SettingsWithoutRepetition()),
                          SettingName);
 
+/// On one model of each kind, to save time: what a host hands over does not depend on the device.
+class RepetitionSweepTest : public ReentrancySweepTest {};
+
+TEST_P(RepetitionSweepTest, RepetitionInsideEachCallIsCarriedOutAtOnce) {
+    FireInEachCall(HostRepetitions());
+}
+
+std::vector<Setting> SettingsOfEachKind() {
+    std::vector<Setting> settings = SettingsWithoutRepetition();
+    std::erase_if(settings, [](const Setting& each) {
+        return each.model != simulator::kKrx8 && each.model != simulator::kKrx20;
+    });
+    return settings;
+}
+
+INSTANTIATE_TEST_SUITE_P(, RepetitionSweepTest, testing::ValuesIn(SettingsOfEachKind()),
+                         SettingName);
+
 }

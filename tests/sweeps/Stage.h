@@ -19,11 +19,16 @@ public:
 
     // The host
     virtual void SetContextAndRegister() = 0;
+    /// Another context, which offers what the first one does.
+    virtual void SetOtherContext() = 0;
+    virtual void SetOtherContextAndRegister() = 0;
     virtual void CreateView() = 0;
     virtual void SetSubsystemAccess() = 0;
     /// Another access object, which leads to the same subsystem.
     virtual void SetOtherSubsystemAccess() = 0;
     virtual void SetConnection() = 0;
+    /// Another connection, which raises the same events and tells the same state.
+    virtual void SetOtherConnection() = 0;
     virtual void SetNoConnection() = 0;
     virtual void Go() = 0;
     virtual void DestroyView() = 0;

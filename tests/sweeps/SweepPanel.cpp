@@ -1,35 +1,18 @@
 #include "tests/sweeps/SweepPanel.h"
 
-#include "contract/device/ProgrammingDeviceSubsystem.h"
-#include "contract/host/Subsystem.h"
 #include "interception/InterceptorChain.h"
 #include "panel/selftest/SelfTestTemplate.h"
+#include "tests/sweeps/OtherObjects.h"
 
 #include <utility>
 
 namespace sweeps {
 
-namespace {
-
-/// Leads to the same subsystem, but is another object.
-class COtherAccess final : public contract::ISubsystemAccess {
-public:
-    explicit COtherAccess(std::shared_ptr<contract::ISubsystemAccess> access)
-        : m_access(std::move(access)) {}
-
-    contract::Status GetSubsystem(const contract::Guid& identifier,
-                                  std::shared_ptr<contract::ISubsystem>& subsystem) override {
-        return m_access->GetSubsystem(identifier, subsystem);
-    }
-
-private:
-    const std::shared_ptr<contract::ISubsystemAccess> m_access;
-};
-
-}
-
 CSweepPanel::CSweepPanel(const simulator::DeviceDescription& description)
-    : m_device(simulator::CDevice::Create(description)) {
+    : m_device(simulator::CDevice::Create(description)),
+      m_otherContext(InPlaceOf(host.Context())),
+      m_otherAccess(InPlaceOf(host.SubsystemAccess())),
+      m_otherConnection(InPlaceOf(host.Connection())) {
     interception = interception::CInterception(std::make_shared<interception::CInterceptorChain>(
         interception::CInterceptorChain::Links{recorder, faults, m_loss}));
     messageService->whileOpen = [this] { OnBoxOpen(); };
@@ -151,6 +134,18 @@ void CSweepPanel::SetContextAndRegister() {
         Note(panel->SetContextAndRegister(interception.Wrap(host.Context())));
 }
 
+void CSweepPanel::SetOtherContext() {
+    if (panel) {
+        Note(panel->SetContext(interception.Wrap(m_otherContext)));
+    }
+}
+
+void CSweepPanel::SetOtherContextAndRegister() {
+    if (panel) {
+        Note(panel->SetContextAndRegister(interception.Wrap(m_otherContext)));
+    }
+}
+
 void CSweepPanel::CreateView() {
     if (panel)
         Note(panel->CreateView(nullptr));
@@ -163,13 +158,18 @@ void CSweepPanel::SetSubsystemAccess() {
 
 void CSweepPanel::SetOtherSubsystemAccess() {
     if (panel)
-        Note(panel->SetSubsystemAccess(interception.Wrap<contract::ISubsystemAccess>(
-            std::make_shared<COtherAccess>(host.SubsystemAccess()))));
+        Note(panel->SetSubsystemAccess(interception.Wrap(m_otherAccess)));
 }
 
 void CSweepPanel::SetConnection() {
     if (panel)
         Note(panel->SetConnection(interception.Wrap(host.Connection())));
+}
+
+void CSweepPanel::SetOtherConnection() {
+    if (panel) {
+        Note(panel->SetConnection(interception.Wrap(m_otherConnection)));
+    }
 }
 
 void CSweepPanel::SetNoConnection() {

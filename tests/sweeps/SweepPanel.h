@@ -29,10 +29,13 @@ public:
 
     // IStage
     void SetContextAndRegister() override;
+    void SetOtherContext() override;
+    void SetOtherContextAndRegister() override;
     void CreateView() override;
     void SetSubsystemAccess() override;
     void SetOtherSubsystemAccess() override;
     void SetConnection() override;
+    void SetOtherConnection() override;
     void SetNoConnection() override;
     void Go() override;
     void DestroyView() override;
@@ -59,6 +62,9 @@ private:
     Kept LookAtState() const;
 
     const std::shared_ptr<simulator::CDevice> m_device;
+    const std::shared_ptr<contract::IContext> m_otherContext;
+    const std::shared_ptr<contract::ISubsystemAccess> m_otherAccess;
+    const std::shared_ptr<contract::IConnection> m_otherConnection;
     const std::shared_ptr<CDeviceLoss> m_loss = std::make_shared<CDeviceLoss>();
     std::optional<Intrusion> m_intrusion;
     std::size_t m_boxesOpened = 0;

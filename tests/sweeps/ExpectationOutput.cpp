@@ -1,0 +1,75 @@
+// What of an expectation is to be seen: boxes, dialogs, the log and the controls.
+
+#include "tests/sweeps/Expectation.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+#include <utility>
+
+namespace sweeps {
+
+void CExpectation::Report(const std::string& text, const std::string& caption) {
+    Show({text, caption, 0x10, m_failure.status.Code(), m_failure.description});
+}
+
+void CExpectation::Warn(const std::string& text, const std::string& caption) {
+    Show({text, caption, 0x30, 0, ""});
+}
+
+void CExpectation::Show(const support::Shown& message) {
+    const auto show = [&] {
+        if (m_plan.failMessageService)
+            return;
+        m_seen.messages.push_back(message);
+        OpenBox();
+    };
+    const bool isAnswered =
+        Call("Context.QueryMessageService") && Call("MessageService.ShowMessage", show);
+    if (!isAnswered || m_plan.failMessageService)
+        ShowPlainBox(message);
+}
+
+void CExpectation::ShowPlainBox(const support::Shown& message) {
+    constexpr std::int32_t kOk = 1;
+    char code[40];
+    std::snprintf(code, sizeof code, "\r\nHRESULT 0x%08x (%d)",
+                  static_cast<unsigned>(message.status), message.status);
+    m_seen.boxes.push_back({message.text + code, message.caption, message.style, kOk});
+    m_prompts.push_back(Prompt::PlainBox);
+    OpenBox();
+}
+
+void CExpectation::OpenBox() {
+    if (m_picture)
+        m_seen.behindBoxes.push_back(*m_picture);
+    Intrude(Moment::WhileBoxOpen, ++m_boxes);
+}
+
+void CExpectation::OpenDialog(DialogRows rows) {
+    m_seen.dialogs.push_back(std::move(rows));
+    m_prompts.push_back(Prompt::Dialog);
+    Intrude(Moment::WhileDialogOpen, ++m_dialogs);
+}
+
+void CExpectation::WriteLine(const std::string& text) { m_log.WritePlain(text, CanReachLog()); }
+
+void CExpectation::SetText(panel::ControlId id, const std::string& text) {
+    // The size fields are the ones that can be reached without an initialised view.
+    constexpr panel::ControlId kReachableById[] = {panel::kFlashSizeField, panel::kFreeFlashField,
+                                                   panel::kRamSizeField, panel::kFreeRamField};
+    const bool isReachable =
+        m_isWhole || std::find(std::begin(kReachableById), std::end(kReachableById), id) !=
+                         std::end(kReachableById);
+    if (m_picture && isReachable)
+        m_picture->texts[id] = text;
+}
+
+void CExpectation::Enable(panel::ControlId id, bool isEnabled) {
+    if (m_picture && m_isWhole)
+        m_picture->enabled[id] = isEnabled;
+}
+
+Picture* CExpectation::List() { return m_picture && m_isWhole ? &*m_picture : nullptr; }
+
+}
