@@ -29,4 +29,6 @@ std::string TakeErrorInfo() noexcept {
 
 void ClearErrorInfo() noexcept { g_hasDescription = false; }
 
+CErrorInfoClearer::CErrorInfoClearer() noexcept : m_hasDescription(g_hasDescription) {}
+
 }

@@ -20,4 +20,16 @@ std::string TakeErrorInfo() noexcept;
 /// Clears the current thread's description.
 void ClearErrorInfo() noexcept;
 
+/// Clears the description of the thread that made it, looked up once: for a caller that clears
+/// before each of very many calls. Not to be used on another thread.
+class CErrorInfoClearer {
+public:
+    CErrorInfoClearer() noexcept;
+
+    void Clear() noexcept { m_hasDescription = false; }
+
+private:
+    bool& m_hasDescription;
+};
+
 }

@@ -29,38 +29,10 @@ constexpr std::string_view kPackageVersionFile = "version.fia";
 
 }
 
-/// Reads one property of a file and says how its cell shows it.
-struct CListingRun::CellStep {
-    FileColumn column;
-    const char* failureText;
-    Status (*read)(File&);
-    std::string_view (*text)(const File&, CellBuffer&);
-};
-
-const CListingRun::CellStep CListingRun::kCellSteps[] = {
-    {FileColumn::Type, "Cannot get type of the file",
-     [](File& f) { return Call(f.info, &IFileInfo::GetType, f.type); },
-     [](const File& f, CellBuffer&) { return FileTypeText(f.type); }},
-    {FileColumn::Id, "Cannot get ID of the file",
-     [](File& f) { return Call(f.info, &IFileInfo::GetId, f.id); },
-     [](const File& f, CellBuffer& buffer) { return NumberText(f.id, buffer); }},
-    {FileColumn::Version, "Cannot get version of the file",
-     [](File& f) { return Call(f.info, &IFileInfo::GetVersion, f.version); },
-     [](const File& f, CellBuffer&) { return CutToBytes(f.version, kLongestCell); }},
-    {FileColumn::Size, "Cannot get size of the file",
-     [](File& f) { return Call(f.info, &IFileInfo::GetSize, f.sizeBytes); },
-     [](const File& f, CellBuffer& buffer) { return NumberText(f.sizeBytes, buffer); }},
-    {FileColumn::Location, "Cannot get file location",
-     [](File& f) { return Call(f.info, &IFileInfo::GetLocation, f.location); },
-     [](const File& f, CellBuffer& buffer) { return FileLocationText(f.location, buffer); }},
-    {FileColumn::Generation, "Cannot get generation of the file",
-     [](File& f) { return Call(f.info, &IFileInfo::GetGeneration, f.generation); },
-     [](const File& f, CellBuffer& buffer) { return FileGenerationText(f.generation, buffer); }},
-};
-
 CListingRun::CListingRun(PanelServices& services, const std::uint64_t& latestFill,
                          std::optional<std::string_view> selectName)
     : m_services(services),
+      m_view(services.view),
       m_latestFill(latestFill),
       m_thisFill(latestFill),
       m_selectName(selectName),
@@ -91,9 +63,10 @@ bool CListingRun::ListFile(const std::shared_ptr<contract::IFileListing>& listin
     File file;
     m_name.clear();
     const bool hasName =
-        MayGoOn(Obtain(listing, &contract::IFileListing::GetFileInfo, index, file.info),
+        MayGoOn(m_calls.Obtain(listing, &contract::IFileListing::GetFileInfo, index, file.info),
                 "Cannot get info about a file") &&
-        MayGoOn(Call(file.info, &IFileInfo::GetName, m_name), "Cannot get name of the file");
+        MayGoOn(m_calls.Call(file.info, &IFileInfo::GetName, m_name),
+                "Cannot get name of the file");
     if (!hasName) {
         return false;
     }
@@ -101,49 +74,67 @@ bool CListingRun::ListFile(const std::shared_ptr<contract::IFileListing>& listin
     if (name.empty()) {
         return true;
     }
+    file.isPackageVersion = EqualsIgnoringCase(name, kPackageVersionFile);
     // Nameless files take no row, so a row's index is the list's to tell.
-    const int row = m_services.view->InsertRow(m_list, index - 1, name);
+    const int row = m_view->InsertRow(m_list, index - 1, name);
     if (m_selectName && EqualsIgnoringCase(*m_selectName, name)) {
         m_rowToSelect = row;
     }
-    return FillRow(row, file, EqualsIgnoringCase(name, kPackageVersionFile));
+    return FillRow(row, file);
 }
 
-bool CListingRun::FillRow(int row, File& file, bool isPackageVersion) {
-    CellBuffer buffer;
-    for (const CellStep& step : kCellSteps) {
-        if (!MayGoOn(step.read(file), step.failureText)) {
+bool CListingRun::FillRow(int row, File& file) {
+    const auto show = [&](FileColumn column, const char* failureText, auto read, auto& value,
+                          auto toText) {
+        if (!MayGoOn(m_calls.Call(file.info, read, value), failureText)) {
             return false;
         }
-        m_services.view->SetCell(m_list, row, static_cast<int>(step.column),
-                                 step.text(file, buffer));
-        if (isPackageVersion && step.column == FileColumn::Version) {
-            m_services.state.installedPackageVersion = FormatVersion(
-                ParseVersion(CutToBytes(file.version, kLongestCell)), kPackageVersionSize);
-        }
+        m_view->SetCell(m_list, row, static_cast<int>(column), toText());
+        return true;
+    };
+    CellBuffer buffer;
+    const bool isFilled =
+        show(FileColumn::Type, "Cannot get type of the file", &IFileInfo::GetType, file.type,
+             [&] { return FileTypeText(file.type); }) &&
+        show(FileColumn::Id, "Cannot get ID of the file", &IFileInfo::GetId, file.id,
+             [&] { return NumberText(file.id, buffer); }) &&
+        show(FileColumn::Version, "Cannot get version of the file", &IFileInfo::GetVersion,
+             file.version, [&] { return TakeVersion(file); }) &&
+        show(FileColumn::Size, "Cannot get size of the file", &IFileInfo::GetSize, file.sizeBytes,
+             [&] { return NumberText(file.sizeBytes, buffer); }) &&
+        show(FileColumn::Location, "Cannot get file location", &IFileInfo::GetLocation,
+             file.location, [&] { return FileLocationText(file.location, buffer); }) &&
+        show(FileColumn::Generation, "Cannot get generation of the file", &IFileInfo::GetGeneration,
+             file.generation, [&] { return FileGenerationText(file.generation, buffer); });
+    if (isFilled) {
+        m_view->SetRowKey(m_list, row, MakeFileRowKey(file.type, file.location, file.id));
     }
-    m_services.view->SetRowKey(m_list, row, MakeFileRowKey(file.type, file.location, file.id));
-    return true;
+    return isFilled;
 }
 
-bool CListingRun::MayGoOn(Status status, const char* failureText) {
-    if (status.IsFailure()) {
-        m_services.output.ReportError(failureText, LoadPanelString(StringId::PrommerMaintenance),
-                                      status);
-        return false;
+std::string_view CListingRun::TakeVersion(const File& file) {
+    const std::string_view version = CutToBytes(file.version, kLongestCell);
+    if (file.isPackageVersion) {
+        m_services.state.installedPackageVersion =
+            FormatVersion(ParseVersion(version), kPackageVersionSize);
     }
-    return m_latestFill == m_thisFill;
+    return version;
+}
+
+bool CListingRun::ReportFailure(Status status, const char* failureText) {
+    m_services.output.ReportError(failureText, LoadPanelString(StringId::PrommerMaintenance),
+                                  status);
+    return false;
 }
 
 void CListingRun::SelectRow() {
-    CPanelView& view = m_services.view;
     if (m_rowToSelect != kNoRow) {
-        view->SelectRow(m_list, m_rowToSelect, true);
-        view->EnsureRowVisible(m_list, m_rowToSelect);
-        view->SetSelectionMark(m_list, m_rowToSelect);
+        m_view->SelectRow(m_list, m_rowToSelect, true);
+        m_view->EnsureRowVisible(m_list, m_rowToSelect);
+        m_view->SetSelectionMark(m_list, m_rowToSelect);
     } else if (m_count > 0) {
-        view->SelectRow(m_list, 0, true);
-        view->SetSelectionMark(m_list, 0);
+        m_view->SelectRow(m_list, 0, true);
+        m_view->SetSelectionMark(m_list, 0);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/Status.h"
+#include "panel/control/CallSeries.h"
 #include "panel/control/PanelServices.h"
 #include "panel/control/View.h"
 
@@ -36,6 +37,7 @@ private:
     /// What the device says of one file.
     struct File {
         std::shared_ptr<contract::IFileInfo> info = {};
+        bool isPackageVersion = false;
         std::int32_t type = 0;
         std::int32_t id = 0;
         std::string version = {};
@@ -44,18 +46,21 @@ private:
         std::uint32_t generation = 0;
     };
 
-    struct CellStep;
-    static const CellStep kCellSteps[];
-
     bool ListFile(const std::shared_ptr<contract::IFileListing>& listing, std::int32_t index);
-    bool FillRow(int row, File& file, bool isPackageVersion);
-    bool MayGoOn(contract::Status status, const char* failureText);
+    bool FillRow(int row, File& file);
+    std::string_view TakeVersion(const File& file);
+    bool MayGoOn(contract::Status status, const char* failureText) {
+        return status.IsFailure() ? ReportFailure(status, failureText) : m_latestFill == m_thisFill;
+    }
+    bool ReportFailure(contract::Status status, const char* failureText);
 
     PanelServices& m_services;
+    CPanelView& m_view;
     const std::uint64_t& m_latestFill;
     const std::uint64_t m_thisFill;
     const std::optional<std::string_view> m_selectName;
     const ControlId m_list;
+    CCallSeries m_calls;
     std::string m_name;
     std::int32_t m_count = 0;
     int m_rowToSelect = kNoRow;

@@ -25,6 +25,21 @@ TEST(ErrorInfoTest, ClearLeavesNothingToTake) {
     EXPECT_EQ(contract::TakeErrorInfo(), "");
 }
 
+TEST(ErrorInfoTest, ClearerClearsDescriptionsSetAfterItWasMade) {
+    contract::CErrorInfoClearer clearer;
+    contract::SetErrorInfo("stale");
+    clearer.Clear();
+    EXPECT_EQ(contract::TakeErrorInfo(), "");
+    contract::SetErrorInfo("left by the next call");
+    EXPECT_EQ(contract::TakeErrorInfo(), "left by the next call");
+}
+
+TEST(ErrorInfoTest, ClearerLeavesOtherThreadsTheirs) {
+    contract::SetErrorInfo("mine");
+    std::thread([] { contract::CErrorInfoClearer().Clear(); }).join();
+    EXPECT_EQ(contract::TakeErrorInfo(), "mine");
+}
+
 TEST(ErrorInfoTest, DescriptionStaysWithItsThread) {
     contract::SetErrorInfo("mine");
     std::string seenElsewhere = "not read";
