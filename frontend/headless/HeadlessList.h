@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frontend/headless/PackedRows.h"
+#include "frontend/common/PackedRows.h"
 #include "panel/control/View.h"
 
 #include <cstdint>
@@ -28,13 +28,15 @@ public:
     void InsertColumn(int index, const panel::ListColumn& column);
     int InsertRow(int index, std::string_view text);
     void SetCell(int row, int column, std::string_view text) {
-        if (HasRow(row) && HasColumn(column))
+        if (HasRow(row) && HasColumn(column)) {
             m_rows.SetCell(row, column, text);
+        }
     }
     std::string GetCell(int row, int column) const;
     void SetRowKey(int row, std::uint32_t key) {
-        if (HasRow(row))
+        if (HasRow(row)) {
             m_rows.SetKey(row, key);
+        }
     }
     std::uint32_t GetRowKey(int row) const;
     void RemoveAllRows();
@@ -72,7 +74,7 @@ private:
 
     bool m_isMultiSelect;
     std::vector<HeadlessColumn> m_columns;
-    CPackedRows m_rows;
+    common::CPackedRows m_rows;
     int m_selectedCount = 0;
     int m_selectionMark = panel::kNoRow;
     int m_focusedRow = panel::kNoRow;

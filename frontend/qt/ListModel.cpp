@@ -18,22 +18,22 @@ Qt::Alignment ToQt(panel::Alignment alignment) {
 void CListModel::AddColumn(int index, const panel::ListColumn& column, const QFont& headingFont) {
     Announce();
     beginInsertColumns({}, index, index);
-    m_rows.InsertColumn(index);
+    // The first column finds the first cell of the rows that were there before it.
+    if (!m_columns.empty()) {
+        m_rows.InsertColumn(index);
+    }
     m_columns.insert(m_columns.begin() + index,
                      Column{qt::ToQt(column.heading), ToQt(column.alignment), headingFont});
     endInsertColumns();
 }
 
 void CListModel::AddRow(int index, std::string_view text) {
-    const bool isAppended = index == m_rows.GetRowCount();
+    const bool isAppended = index == m_rows.Count();
     if (!isAppended) {
         Announce();
         beginInsertRows({}, index, index);
     }
-    m_rows.InsertRow(index);
-    if (m_rows.GetColumnCount() > 0) {
-        m_rows.SetCell(index, 0, text);
-    }
+    m_rows.Insert(index, text);
     if (!isAppended) {
         ++m_announcedRows;
         endInsertRows();
@@ -62,15 +62,15 @@ void CListModel::Announce() {
         emit dataChanged(index(m_firstChanged, 0), index(m_lastChanged, columnCount() - 1));
     }
     ForgetNews();
-    if (m_announcedRows < m_rows.GetRowCount()) {
-        beginInsertRows({}, m_announcedRows, m_rows.GetRowCount() - 1);
-        m_announcedRows = m_rows.GetRowCount();
+    if (m_announcedRows < m_rows.Count()) {
+        beginInsertRows({}, m_announcedRows, m_rows.Count() - 1);
+        m_announcedRows = m_rows.Count();
         endInsertRows();
     }
 }
 
 bool CListModel::HasNews() const {
-    return m_lastChanged != panel::kNoRow || m_announcedRows < m_rows.GetRowCount();
+    return m_lastChanged != panel::kNoRow || m_announcedRows < m_rows.Count();
 }
 
 int CListModel::rowCount(const QModelIndex& parent) const {
@@ -78,7 +78,7 @@ int CListModel::rowCount(const QModelIndex& parent) const {
 }
 
 int CListModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : m_rows.GetColumnCount();
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
 }
 
 QVariant CListModel::data(const QModelIndex& index, int role) const {
@@ -86,7 +86,7 @@ QVariant CListModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     if (role == Qt::DisplayRole) {
-        return qt::ToQt(m_rows.GetCell(index.row(), index.column()));
+        return qt::ToQt(m_rows.Cell(index.row(), index.column()));
     }
     if (role == Qt::TextAlignmentRole) {
         return QVariant(m_columns[static_cast<std::size_t>(index.column())].alignment);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frontend/qt/PackedRows.h"
+#include "frontend/common/PackedRows.h"
 #include "panel/control/View.h"
 
 #include <QAbstractTableModel>
@@ -18,7 +18,7 @@ namespace qt {
 /// only. Everything else sees each change immediately. Rows and columns handed in must exist.
 class CListModel final : public QAbstractTableModel {
 public:
-    const CPackedRows& Rows() const { return m_rows; }
+    const common::CPackedRows& Rows() const { return m_rows; }
 
     /// Adds a column before column `index`, which may be the count.
     void AddColumn(int index, const panel::ListColumn& column, const QFont& headingFont);
@@ -47,7 +47,7 @@ private:
 
     void ForgetNews();
 
-    CPackedRows m_rows;
+    common::CPackedRows m_rows;
     std::vector<Column> m_columns;
     int m_announcedRows = 0;
     // Announced rows with cells that have changed; none when the first is beyond the last.

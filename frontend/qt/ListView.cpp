@@ -82,7 +82,7 @@ void CListView::SetCell(int row, int column, std::string_view text) {
 }
 
 std::string CListView::GetCell(int row, int column) const {
-    return HasCell(row, column) ? FromQt(ToQt(m_model.Rows().GetCell(row, column))) : std::string();
+    return HasCell(row, column) ? FromQt(ToQt(m_model.Rows().Cell(row, column))) : std::string();
 }
 
 void CListView::SetRowKey(int row, std::uint32_t key) {
@@ -92,7 +92,7 @@ void CListView::SetRowKey(int row, std::uint32_t key) {
 }
 
 std::uint32_t CListView::GetRowKey(int row) const {
-    return HasRow(row) ? m_model.Rows().GetKey(row) : 0;
+    return HasRow(row) ? m_model.Rows().Key(row) : 0;
 }
 
 void CListView::RemoveAllRows() {
@@ -178,7 +178,7 @@ void CListView::timerEvent(QTimerEvent* event) {
 }
 
 bool CListView::HasCell(int row, int column) const {
-    return HasRow(row) && column >= 0 && column < m_model.Rows().GetColumnCount();
+    return HasRow(row) && column >= 0 && column < m_model.columnCount();
 }
 
 void CListView::ScheduleUpdate() {

@@ -38,7 +38,7 @@ public:
     void SetRowKey(int row, std::uint32_t key);
     std::uint32_t GetRowKey(int row) const;
     void RemoveAllRows();
-    int GetRowCount() const { return m_model.Rows().GetRowCount(); }
+    int GetRowCount() const { return m_model.Rows().Count(); }
 
     void SelectRow(int row, bool selected);
     std::vector<int> GetSelectedRows();

@@ -12,8 +12,9 @@ declare -A reaches=(
     [interception]="contract interception"
     [simulator]="contract interception simulator"
     [panel]="contract panel"
-    [frontend/headless]="contract panel frontend/headless"
-    [frontend/qt]="contract panel frontend/qt"
+    [frontend/common]="frontend/common"
+    [frontend/headless]="contract panel frontend/common frontend/headless"
+    [frontend/qt]="contract panel frontend/common frontend/qt"
     [workstation]="contract interception simulator panel frontend/headless frontend/qt workstation"
 )
 
@@ -22,6 +23,7 @@ declare -A libraries=(
     [contract]=""
     [panel]=""
     [interception]=""
+    [frontend/common]=""
     [frontend/headless]=""
     [simulator]="nlohmann/json.hpp nlohmann/json_fwd.hpp dirent.h fcntl.h sys/stat.h sys/types.h unistd.h"
 )

@@ -7,7 +7,7 @@ trap 'rm -rf "$tree"' EXIT
 
 failures=0
 expect() { # EXPECTED-STATUS FOLDER INCLUDE
-    mkdir -p "$tree"/{contract,interception,simulator,panel/control,frontend/headless,frontend/qt,workstation}
+    mkdir -p "$tree"/{contract,interception,simulator,panel/control,frontend/common,frontend/headless,frontend/qt,workstation}
     printf '#pragma once\n\n#include %s\n' "$3" >"$tree/$2/Probe.h"
     local output status
     output=$("$check" "$tree")
@@ -24,6 +24,8 @@ expect 0 contract '"contract/Status.h"'
 expect 0 simulator '"interception/Interceptor.h"'
 expect 0 simulator '<nlohmann/json.hpp>'
 expect 0 panel/control '"contract/panel/Panel.h"'
+expect 0 frontend/headless '"frontend/common/PackedRows.h"'
+expect 0 frontend/qt '"frontend/common/PackedRows.h"'
 expect 0 frontend/qt '<QWidget>'
 expect 0 workstation '"frontend/qt/QtPanel.h"'
 
@@ -39,6 +41,8 @@ expect 1 panel/control '"frontend/qt/QtView.h"'
 expect 1 panel/control '<unistd.h>'
 expect 1 panel/control '<QWidget>'
 expect 1 panel/control '"View.h"'
+expect 1 frontend/common '"frontend/headless/HeadlessList.h"'
+expect 1 frontend/common '<QString>'
 expect 1 frontend/headless '"frontend/qt/QtView.h"'
 expect 1 frontend/headless '<QWidget>'
 expect 1 frontend/qt '"frontend/headless/HeadlessView.h"'

@@ -1,40 +1,44 @@
 #pragma once
 
-#include "frontend/headless/TextArena.h"
+#include "frontend/common/TextArena.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <string>
 #include <string_view>
+#include <vector>
 
-namespace headless {
+namespace common {
 
 /// The rows of a list, packed: the cells of a row stand one behind the other, each behind its
 /// length, and the rows likewise, so that a row costs 16 bytes, its text and a byte a cell, and
 /// filling a list in row and column order allocates nothing for a row or a cell.
 ///
-/// Rows and columns must exist; a cell that was never set is empty.
+/// Rows must exist; of columns it knows only the cells that were set: any other cell is empty.
 class CPackedRows {
 public:
     int Count() const { return static_cast<int>(m_rows.size()); }
 
+    /// Adds a row with key 0, not selected, before row `index`, which may be the count.
     void Insert(int index, std::string_view firstCell);
+    /// Keeps the memory for the rows to come: a list is cleared to be filled again.
     void Clear();
 
     void SetCell(int row, int column, std::string_view text) {
-        if (row == m_openRow && column == m_open->cellCount)
+        if (row == m_openRow && column == m_open->cellCount) {
             AppendCell(*m_open, text);
-        else
+        } else {
             ChangeCell(row, column, text);
+        }
     }
-    /// Valid until the next change.
+    /// UTF-8 as it was set. Valid until the next change.
     std::string_view Cell(int row, int column) const;
     /// Makes room for a new column in the rows that are there.
     void InsertColumn(int index);
 
     void SetKey(int row, std::uint32_t key) { At(row).key = key; }
     std::uint32_t Key(int row) const { return At(row).key; }
+    /// For a front end whose toolkit keeps no selection.
     void SetSelected(int row, bool isSelected) { At(row).isSelected = isSelected; }
     bool IsSelected(int row) const { return At(row).isSelected; }
 
@@ -51,7 +55,23 @@ private:
 
     Row& At(int row) { return m_rows[static_cast<std::size_t>(row)]; }
     const Row& At(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
-    void AppendCell(Row& row, std::string_view text);
+    // A length up to 254 is one byte; a longer one is this mark and four bytes.
+    static constexpr unsigned char kLongCell = 0xFF;
+
+    void AppendCell(Row& row, std::string_view text) {
+        if (text.size() < kLongCell) {
+            char* const place = m_text.Extend(1 + text.size());
+            *place = static_cast<char>(text.size());
+            text.copy(place + 1, text.size());
+        } else {
+            AppendLongCell(text);
+        }
+        row.cells = m_text.Block();
+        ++row.cellCount;
+    }
+    void AppendLongCell(std::string_view text);
+    static std::string_view NextCell(const char*& cells);
+    static std::string_view CellsOf(const Row& row);
     void ChangeCell(int row, int column, std::string_view text);
     void Open(int row);
     void OpenAtEnd(int row);
@@ -61,7 +81,7 @@ private:
     void CompactWhenWorthwhile();
 
     CTextArena m_text;
-    std::deque<Row> m_rows;
+    std::vector<Row> m_rows;
     // The row whose cells are the open block, so that more can be appended to it.
     int m_openRow = -1;
     Row* m_open = nullptr;

@@ -1,49 +1,24 @@
-#include "frontend/headless/PackedRows.h"
+#include "frontend/common/PackedRows.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <utility>
 
-namespace headless {
+namespace common {
 
 namespace {
 
-// A length up to 254 is one byte; a longer one is this mark and four bytes.
-constexpr unsigned char kLongCell = 0xFF;
 constexpr std::size_t kCompactFrom = 64 * 1024;
-
-std::string_view NextCell(const char*& cells) {
-    std::size_t length = static_cast<unsigned char>(*cells++);
-    if (length == kLongCell) {
-        std::uint32_t longLength = 0;
-        std::memcpy(&longLength, cells, sizeof longLength);
-        cells += sizeof longLength;
-        length = longLength;
-    }
-    return {std::exchange(cells, cells + length), length};
-}
-
-std::string_view CellsOf(const char* begin, int count) {
-    const char* end = begin;
-    for (int cell = 0; cell < count; ++cell)
-        NextCell(end);
-    return {begin, end};
-}
-
-char* WriteLongLength(char* place, std::size_t size) {
-    const auto length = static_cast<std::uint32_t>(size);
-    *place++ = static_cast<char>(kLongCell);
-    std::memcpy(place, &length, sizeof length);
-    return place + sizeof length;
-}
 
 }
 
 void CPackedRows::Insert(int index, std::string_view firstCell) {
-    if (index == Count())
+    if (index == Count()) {
         m_rows.emplace_back();
-    else
+    } else {
         m_rows.insert(m_rows.begin() + index, Row{});
+    }
     Open(index);
     AppendCell(*m_open, firstCell);
 }
@@ -65,45 +40,63 @@ void CPackedRows::ChangeCell(int row, int column, std::string_view text) {
         });
         return;
     }
-    if (row != m_openRow)
+    if (row != m_openRow) {
         OpenAtEnd(row);
-    while (target.cellCount < column)
+    }
+    while (target.cellCount < column) {
         AppendCell(target, {});
+    }
     AppendCell(target, text);
 }
 
 std::string_view CPackedRows::Cell(int row, int column) const {
     const Row& source = At(row);
-    if (column >= source.cellCount)
+    if (column >= source.cellCount) {
         return {};
+    }
     const char* cells = source.cells;
-    for (int skipped = 0; skipped < column; ++skipped)
+    for (int skipped = 0; skipped < column; ++skipped) {
         NextCell(cells);
+    }
     return NextCell(cells);
 }
 
 void CPackedRows::InsertColumn(int index) {
     for (int row = 0; row < Count(); ++row) {
-        if (index >= At(row).cellCount)
-            continue;
-        Rewrite(row, At(row).cellCount + 1, [&](int cell, const char*& old) {
-            return cell == index ? std::string_view() : NextCell(old);
-        });
+        if (index < At(row).cellCount) {
+            Rewrite(row, At(row).cellCount + 1, [&](int cell, const char*& old) {
+                return cell == index ? std::string_view() : NextCell(old);
+            });
+        }
     }
 }
 
-void CPackedRows::AppendCell(Row& row, std::string_view text) {
-    if (text.size() < kLongCell) {
-        char* const place = m_text.Extend(1 + text.size());
-        *place = static_cast<char>(text.size());
-        text.copy(place + 1, text.size());
-    } else {
-        text = text.substr(0, std::numeric_limits<std::uint32_t>::max());
-        char* const place = m_text.Extend(1 + sizeof(std::uint32_t) + text.size());
-        text.copy(WriteLongLength(place, text.size()), text.size());
+void CPackedRows::AppendLongCell(std::string_view text) {
+    const auto length = static_cast<std::uint32_t>(
+        std::min<std::size_t>(text.size(), std::numeric_limits<std::uint32_t>::max()));
+    char* const place = m_text.Extend(1 + sizeof length + length);
+    *place = static_cast<char>(kLongCell);
+    std::memcpy(place + 1, &length, sizeof length);
+    text.copy(place + 1 + sizeof length, length);
+}
+
+std::string_view CPackedRows::NextCell(const char*& cells) {
+    std::size_t length = static_cast<unsigned char>(*cells++);
+    if (length == kLongCell) {
+        std::uint32_t longLength = 0;
+        std::memcpy(&longLength, cells, sizeof longLength);
+        cells += sizeof longLength;
+        length = longLength;
     }
-    row.cells = m_text.Block();
-    ++row.cellCount;
+    return {std::exchange(cells, cells + length), length};
+}
+
+std::string_view CPackedRows::CellsOf(const Row& row) {
+    const char* end = row.cells;
+    for (int cell = 0; cell < row.cellCount; ++cell) {
+        NextCell(end);
+    }
+    return {row.cells, end};
 }
 
 void CPackedRows::Open(int row) {
@@ -118,7 +111,7 @@ void CPackedRows::OpenAtEnd(int row) {
 
 // The cells of a row that is about to be written anew as the open block.
 std::string CPackedRows::TakeCells(int row) {
-    std::string taken(CellsOf(At(row).cells, At(row).cellCount));
+    std::string taken(CellsOf(At(row)));
     if (row == m_openRow) {
         m_text.EmptyBlock();
     } else {
@@ -134,25 +127,28 @@ void CPackedRows::Rewrite(int row, int cellCount, ChooseCell chooseCell) {
     const char* old = taken.data();
     Row& target = At(row);
     target.cellCount = 0;
-    for (int cell = 0; cell < cellCount; ++cell)
+    for (int cell = 0; cell < cellCount; ++cell) {
         AppendCell(target, chooseCell(cell, old));
+    }
     CompactWhenWorthwhile();
 }
 
 void CPackedRows::CompactWhenWorthwhile() {
-    if (m_unusedBytes < kCompactFrom || m_unusedBytes < m_text.UsedBytes() / 2)
+    if (m_unusedBytes < kCompactFrom || m_unusedBytes < m_text.UsedBytes() / 2) {
         return;
+    }
     // The row that is open must be the open block of the compact text too, so it comes last.
     CTextArena compact;
     const auto copyRow = [&](Row& row) {
-        const std::string_view cells = CellsOf(row.cells, row.cellCount);
+        const std::string_view cells = CellsOf(row);
         compact.OpenBlock();
         cells.copy(compact.Extend(cells.size()), cells.size());
         row.cells = compact.Block();
     };
     for (int row = 0; row < Count(); ++row) {
-        if (row != m_openRow)
+        if (row != m_openRow) {
             copyRow(At(row));
+        }
     }
     copyRow(At(m_openRow));
     m_text = std::move(compact);

@@ -1,4 +1,4 @@
-#include "frontend/headless/PackedRows.h"
+#include "frontend/common/PackedRows.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +13,9 @@ protected:
     void FillInOrder(int rows, int columns) {
         for (int row = 0; row < rows; ++row) {
             m_rows.Insert(row, CellText(row, 0));
-            for (int column = 1; column < columns; ++column)
+            for (int column = 1; column < columns; ++column) {
                 m_rows.SetCell(row, column, CellText(row, column));
+            }
         }
     }
 
@@ -22,7 +23,7 @@ protected:
         return "r" + std::to_string(row) + "c" + std::to_string(column);
     }
 
-    headless::CPackedRows m_rows;
+    common::CPackedRows m_rows;
 };
 
 TEST_F(PackedRowsTest, CellsSetInOrderAreReadBack) {
@@ -65,8 +66,9 @@ TEST_F(PackedRowsTest, FillingInOrderTakesTextAndOneByteACell) {
 TEST_F(PackedRowsTest, ReplacingOverAndOverDoesNotGrowForEver) {
     FillInOrder(100, 3);
     const std::string text(1000, 'x');
-    for (int round = 0; round < 10'000; ++round)
+    for (int round = 0; round < 10'000; ++round) {
         m_rows.SetCell(round % 100, 1, text);
+    }
     EXPECT_LT(m_rows.TextBytes(), 500'000u);
     EXPECT_EQ(m_rows.Cell(7, 0), "r7c0");
     EXPECT_EQ(m_rows.Cell(7, 1), text);
@@ -98,6 +100,20 @@ TEST_F(PackedRowsTest, InsertInTheMiddleKeepsKeysAndSelectionWithTheirRows) {
     EXPECT_EQ(m_rows.Cell(2, 1), "r1c1");
 }
 
+TEST_F(PackedRowsTest, ClearLeavesNothingOfTheRowsBefore) {
+    FillInOrder(3, 3);
+    m_rows.SetKey(0, 42);
+    m_rows.SetSelected(0, true);
+    m_rows.Clear();
+    EXPECT_EQ(m_rows.Count(), 0);
+    EXPECT_EQ(m_rows.TextBytes(), 0u);
+    m_rows.Insert(0, "new");
+    EXPECT_EQ(m_rows.Cell(0, 0), "new");
+    EXPECT_EQ(m_rows.Cell(0, 1), "");
+    EXPECT_EQ(m_rows.Key(0), 0u);
+    EXPECT_FALSE(m_rows.IsSelected(0));
+}
+
 TEST_F(PackedRowsTest, RandomChangesMatchAPlainTable) {
     constexpr unsigned kSeed = 20'240;
     SCOPED_TRACE("seed " + std::to_string(kSeed));
@@ -117,9 +133,10 @@ TEST_F(PackedRowsTest, RandomChangesMatchAPlainTable) {
         }
     }
     for (int row = 0; row < m_rows.Count(); ++row) {
-        for (int column = 0; column < 4; ++column)
+        for (int column = 0; column < 4; ++column) {
             ASSERT_EQ(m_rows.Cell(row, column),
                       table[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
+        }
     }
 }
 

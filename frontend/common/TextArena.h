@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-namespace headless {
+namespace common {
 
 /// Blocks of bytes, one behind the other in large chunks that never move: growing costs neither a
 /// copy of what is there nor an allocation a block. The block opened last can grow.
@@ -16,8 +16,9 @@ public:
     void EmptyBlock() { m_end = m_block; }
     /// Makes the open block longer and returns where to write. May move the open block.
     char* Extend(std::size_t bytes) {
-        if (static_cast<std::size_t>(m_limit - m_end) < bytes)
+        if (static_cast<std::size_t>(m_limit - m_end) < bytes) {
             ContinueInNextChunk(bytes);
+        }
         char* const place = m_end;
         m_end += bytes;
         return place;

@@ -1,25 +1,28 @@
-#include "frontend/headless/TextArena.h"
+#include "frontend/common/TextArena.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace headless {
+namespace common {
 
 namespace {
 constexpr std::size_t kChunkBytes = 64 * 1024;
 }
 
 void CTextArena::Clear() {
-    if (!m_chunks.empty())
+    if (!m_chunks.empty()) {
         Enter(0);
+    }
 }
 
 std::size_t CTextArena::UsedBytes() const {
-    if (m_chunks.empty())
+    if (m_chunks.empty()) {
         return 0;
+    }
     auto used = static_cast<std::size_t>(m_end - m_chunks[m_current].bytes.get());
-    for (std::size_t chunk = 0; chunk < m_current; ++chunk)
+    for (std::size_t chunk = 0; chunk < m_current; ++chunk) {
         used += m_chunks[chunk].used;
+    }
     return used;
 }
 
