@@ -7,8 +7,9 @@ namespace sweeps {
 
 contract::Status CDeviceLoss::Call(const interception::Operation& operation,
                                    interception::FunctionRef<contract::Status()> run) {
-    if (!isLost || operation.provider != interception::Provider::Device)
+    if (!isLost || operation.provider != interception::Provider::Device) {
         return run();
+    }
     contract::SetErrorInfo(kLostDescription);
     return kLostStatus;
 }

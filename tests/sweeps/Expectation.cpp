@@ -29,8 +29,9 @@ class CExpectation::CEntry {
 public:
     explicit CEntry(CExpectation& panel) : m_panel(panel) { ++m_panel.m_entries; }
     ~CEntry() {
-        if (--m_panel.m_entries == 0 && m_panel.m_isReleased)
+        if (--m_panel.m_entries == 0 && m_panel.m_isReleased) {
             m_panel.EndPanel();
+        }
     }
     CEntry(const CEntry&) = delete;
     CEntry& operator=(const CEntry&) = delete;
@@ -53,10 +54,12 @@ void CExpectation::Arrange(const Plan& plan) {
 Observation CExpectation::Take() {
     Observation seen = std::exchange(m_seen, {});
     seen.picture = m_picture;
-    if (m_picture)
+    if (m_picture) {
         seen.log = m_log.Lines();
-    if (!m_isGone)
+    }
+    if (!m_isGone) {
         seen.kept = kept;
+    }
     return seen;
 }
 
@@ -89,8 +92,9 @@ void CExpectation::SetOtherContext() {
 }
 
 void CExpectation::CreateView() {
-    if (m_isReleased)
+    if (m_isReleased) {
         return;
+    }
     const CEntry entry(*this);
     if (std::exchange(m_hadView, true)) {
         m_seen.statuses.push_back(contract::kUnspecifiedFailure);
@@ -98,18 +102,21 @@ void CExpectation::CreateView() {
     }
     m_picture = FreshPicture();
     m_isWhole = Call("Context.QueryHostViewControl");
-    if (m_picture)
+    if (m_picture) {
         m_picture->isCloseVisible = m_isWhole;
+    }
     m_seen.statuses.push_back(m_picture ? contract::kSuccess : contract::kUnspecifiedFailure);
 }
 
 void CExpectation::SetSubsystemAccess() {
-    if (m_isReleased)
+    if (m_isReleased) {
         return;
+    }
     const CEntry entry(*this);
     const Status status = ExpectSubsystem(*this);
-    if (status.IsFailure())
+    if (status.IsFailure()) {
         Report("Connecting to KxProgrammingDevice subsystem failed", "SetSubsystemAccess");
+    }
     m_seen.statuses.push_back(status);
 }
 
@@ -129,26 +136,31 @@ void CExpectation::Connect(Handed connection) {
 }
 
 void CExpectation::Go() {
-    if (m_isReleased)
+    if (m_isReleased) {
         return;
+    }
     const CEntry entry(*this);
     bool isConnected = false;
     if (held.connectionState &&
-        Call("ConnectionState.IsConnected", [&] { isConnected = m_isInserted; }) && isConnected)
+        Call("ConnectionState.IsConnected", [&] { isConnected = m_isInserted; }) && isConnected) {
         ExpectTypeRead(*this);
+    }
     m_seen.statuses.push_back(contract::kSuccess);
 }
 
 void CExpectation::DestroyView() {
-    if (!m_isReleased)
+    if (!m_isReleased) {
         m_picture.reset();
+    }
 }
 
 void CExpectation::ReleasePanel() {
-    if (std::exchange(m_isReleased, true))
+    if (std::exchange(m_isReleased, true)) {
         return;
-    if (m_entries == 0)
+    }
+    if (m_entries == 0) {
         EndPanel();
+    }
 }
 
 void CExpectation::EndPanel() {
@@ -160,8 +172,9 @@ void CExpectation::EndPanel() {
 // Events
 
 void CExpectation::RaiseState(Status status, std::int32_t state) {
-    if (m_isGone || held.heardConnections.empty() || status.IsFailure())
+    if (m_isGone || held.heardConnections.empty() || status.IsFailure()) {
         return;
+    }
     const CEntry entry(*this);
     if (state == 5) {
         ExpectControlsEnabled(*this, false);
@@ -173,8 +186,9 @@ void CExpectation::RaiseState(Status status, std::int32_t state) {
 }
 
 void CExpectation::RaiseMode(std::int32_t mode) {
-    if (m_isGone || !held.hearsDevice)
+    if (m_isGone || !held.hearsDevice) {
         return;
+    }
     constexpr const char* kNames[] = {"Unknown", "Normal", "Service", "Maintenance"};
     kept.mode = mode;
     const bool isKnown = mode >= 1 && mode <= 3;
@@ -182,8 +196,9 @@ void CExpectation::RaiseMode(std::int32_t mode) {
 }
 
 void CExpectation::RaiseMessage(const std::string& text, std::uint32_t done, std::uint32_t total) {
-    if (m_isGone || !held.hearsDevice)
+    if (m_isGone || !held.hearsDevice) {
         return;
+    }
     m_log.WriteProgress(text, done, total, CanReachLog());
 }
 
@@ -198,11 +213,13 @@ void CExpectation::LoseDevice() {
 }
 
 void CExpectation::PressButton(panel::ControlId id) {
-    if (m_isReleased || !m_picture || !m_picture->enabled[id])
+    if (m_isReleased || !m_picture || !m_picture->enabled[id]) {
         return;
+    }
     const CEntry entry(*this);
-    if (id == panel::kDetailsButton)
+    if (id == panel::kDetailsButton) {
         ExpectDetails(*this);
+    }
 }
 
 // What the panel does
@@ -216,10 +233,12 @@ bool CExpectation::Call(std::string_view operation, const Effect& effect) {
         RaiseState(contract::kSuccess, 5);
         LoseDevice();
     }
-    if (Spoils(call, operation))
+    if (Spoils(call, operation)) {
         return false;
-    if (effect)
+    }
+    if (effect) {
         effect();
+    }
     Intrude(Moment::AfterCall, call);
     return true;
 }
@@ -251,8 +270,9 @@ bool CExpectation::CallInTurn(std::initializer_list<std::string_view> operations
 
 void CExpectation::Intrude(Moment moment, std::size_t number) {
     const auto& intrusion = m_plan.intrusion;
-    if (!intrusion || intrusion->moment != moment || intrusion->number != number)
+    if (!intrusion || intrusion->moment != moment || intrusion->number != number) {
         return;
+    }
     const Event& event = *intrusion->event;
     m_callsSpoilt += moment == Moment::BeforeCall || moment == Moment::AfterCall ? 1 : 0;
     event.raise(*this);

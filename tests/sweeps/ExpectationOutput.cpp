@@ -19,15 +19,17 @@ void CExpectation::Warn(const std::string& text, const std::string& caption) {
 
 void CExpectation::Show(const support::Shown& message) {
     const auto show = [&] {
-        if (m_plan.failMessageService)
+        if (m_plan.failMessageService) {
             return;
+        }
         m_seen.messages.push_back(message);
         OpenBox();
     };
     const bool isAnswered =
         Call("Context.QueryMessageService") && Call("MessageService.ShowMessage", show);
-    if (!isAnswered || m_plan.failMessageService)
+    if (!isAnswered || m_plan.failMessageService) {
         ShowPlainBox(message);
+    }
 }
 
 void CExpectation::ShowPlainBox(const support::Shown& message) {
@@ -41,8 +43,9 @@ void CExpectation::ShowPlainBox(const support::Shown& message) {
 }
 
 void CExpectation::OpenBox() {
-    if (m_picture)
+    if (m_picture) {
         m_seen.behindBoxes.push_back(*m_picture);
+    }
     Intrude(Moment::WhileBoxOpen, ++m_boxes);
 }
 
@@ -61,13 +64,15 @@ void CExpectation::SetText(panel::ControlId id, const std::string& text) {
     const bool isReachable =
         m_isWhole || std::find(std::begin(kReachableById), std::end(kReachableById), id) !=
                          std::end(kReachableById);
-    if (m_picture && isReachable)
+    if (m_picture && isReachable) {
         m_picture->texts[id] = text;
+    }
 }
 
 void CExpectation::Enable(panel::ControlId id, bool isEnabled) {
-    if (m_picture && m_isWhole)
+    if (m_picture && m_isWhole) {
         m_picture->enabled[id] = isEnabled;
+    }
 }
 
 Picture* CExpectation::List() { return m_picture && m_isWhole ? &*m_picture : nullptr; }

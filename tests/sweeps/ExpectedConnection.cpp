@@ -89,22 +89,27 @@ contract::Status ExpectRegistration(CExpectation& panel, Handed context) {
 
 contract::Status ExpectSubsystem(CExpectation& panel) {
     auto& held = panel.held;
-    if (held.control)
+    if (held.control) {
         return contract::kSuccess;
+    }
     if (!held.subsystem) {
         if (!panel.CallInTurn(
-                {"SubsystemAccess.GetSubsystem", "Subsystem.QueryProgrammingDeviceSubsystem"}))
+                {"SubsystemAccess.GetSubsystem", "Subsystem.QueryProgrammingDeviceSubsystem"})) {
             return panel.FailureStatus();
+        }
         held.subsystem = true;
     }
     // A host that hands its access over anew from inside one of these calls has connected the
     // panel by then: one control, one subscription.
-    if (held.control)
+    if (held.control) {
         return contract::kSuccess;
-    if (!panel.Call("ProgrammingDeviceSubsystem.get_ProgrammingDeviceControl"))
+    }
+    if (!panel.Call("ProgrammingDeviceSubsystem.get_ProgrammingDeviceControl")) {
         return panel.FailureStatus();
-    if (std::exchange(held.control, true))
+    }
+    if (std::exchange(held.control, true)) {
         return contract::kSuccess;
+    }
     const bool isSubscribed =
         panel.CallInTurn({"ProgrammingDeviceControl.QueryBaseObject",
                           "ProgrammingDeviceControlEvents.FindEventSource"}) &&

@@ -72,35 +72,43 @@ struct Filling {
 
     bool FillRow(const StoredFile& file) const {
         const std::size_t row = panel.List() ? panel.List()->rows.size() : 0;
-        if (Picture* list = panel.List())
+        if (Picture* list = panel.List()) {
             list->rows.push_back({{file.name, "", "", "", "", "", ""}, 0});
+        }
         std::size_t column = 0;
         for (const Cell& cell : kCells) {
-            if (!Call(cell.operation, cell.failureText))
+            if (!Call(cell.operation, cell.failureText)) {
                 return false;
+            }
             ++column;
-            if (Picture* list = panel.List())
+            if (Picture* list = panel.List()) {
                 list->rows[row].cells[column] = cell.text(file);
-            if (column == 3 && file.name == "Version.FIA")
+            }
+            if (column == 3 && file.name == "Version.FIA") {
                 panel.kept.packageVersion = "002.005.013";
+            }
         }
-        if (Picture* list = panel.List())
+        if (Picture* list = panel.List()) {
             list->rows[row].key = static_cast<std::uint32_t>(file.type) << 24 |
                                   static_cast<std::uint32_t>(file.location) << 16 |
                                   (static_cast<std::uint32_t>(file.id) & 0xFFFF);
+        }
         return true;
     }
 
     bool ListFiles() const {
         if (!Call("ProgrammingDeviceControl.GetFileListing", "File listing query failed") ||
-            !Call("FileListing.GetFileCount", "Cannot get the count of files"))
+            !Call("FileListing.GetFileCount", "Cannot get the count of files")) {
             return false;
+        }
         for (const StoredFile& file : panel.Device().files) {
             if (!Call("FileListing.GetFileInfo", "Cannot get info about a file") ||
-                !Call("FileInfo.GetName", "Cannot get name of the file"))
+                !Call("FileInfo.GetName", "Cannot get name of the file")) {
                 return false;
-            if (!file.name.empty() && !FillRow(file))
+            }
+            if (!file.name.empty() && !FillRow(file)) {
                 return false;
+            }
         }
         return true;
     }
@@ -119,11 +127,13 @@ void ExpectListCleared(CExpectation& panel) {
 
 void ExpectListing(CExpectation& panel) {
     ExpectListCleared(panel);
-    if (panel.kept.mode != 1)
+    if (panel.kept.mode != 1) {
         return;
+    }
     panel.WriteLine("Updating file listing...");
-    if (!Filling{panel, panel.fillings}.ListFiles())
+    if (!Filling{panel, panel.fillings}.ListFiles()) {
         return;
+    }
     if (Picture* list = panel.List()) {
         list->selection = {0};
         list->mark = 0;

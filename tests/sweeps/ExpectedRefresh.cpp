@@ -29,8 +29,9 @@ bool IsKrx8Family(const CExpectation& panel) {
 }
 
 std::string FreeBytes(const CExpectation& panel, std::uint32_t totalBytes, std::int32_t location) {
-    for (const auto& file : panel.Device().files)
+    for (const auto& file : panel.Device().files) {
         totalBytes -= file.location == location ? static_cast<std::uint32_t>(file.sizeBytes) : 0;
+    }
     return std::to_string(totalBytes);
 }
 
@@ -110,8 +111,9 @@ void ExpectFreeMemory(CExpectation& panel) {
 
 void ExpectDeviceInformation(CExpectation& panel) {
     panel.WriteLine("Querying hardware and software info from Programming Device");
-    if (!Expect(panel, kVersionsAndSizes, kCaption))
+    if (!Expect(panel, kVersionsAndSizes, kCaption)) {
         return;
+    }
     ExpectFreeMemory(panel);
     const bool isNetworked = panel.kept.type >= 3 && panel.kept.type <= 5;
     Expect(panel, isNetworked ? std::span<const Step>(kNetwork) : kSerialNumber, kCaption);
@@ -119,17 +121,21 @@ void ExpectDeviceInformation(CExpectation& panel) {
 
 void ExpectModeKnown(CExpectation& panel) {
     const auto answer = [&] { panel.RaiseMode(panel.Device().mode); };
-    if (panel.kept.mode == 0 && !panel.Call("ProgrammingDeviceControl.RequestMode", answer))
+    if (panel.kept.mode == 0 && !panel.Call("ProgrammingDeviceControl.RequestMode", answer)) {
         panel.Report("Programming Device Mode query failed", kCaption);
+    }
 }
 
 void ExpectRefresh(CExpectation& panel) {
-    if (!panel.kept.refreshAllowed)
+    if (!panel.kept.refreshAllowed) {
         return;
-    for (const panel::ControlId id : {211, 212, 217, 218, 219, 244})
+    }
+    for (const panel::ControlId id : {211, 212, 217, 218, 219, 244}) {
         panel.SetText(id, "");
-    for (const panel::ControlId id : {213, 214, 215, 216})
+    }
+    for (const panel::ControlId id : {213, 214, 215, 216}) {
         panel.SetText(id, "0");
+    }
     ExpectListCleared(panel);
     const bool havePassed = ExpectSelfTestQuery(panel);
     panel.SetText(221, havePassed ? "TEST OK" : "Some tests failed");
@@ -137,8 +143,9 @@ void ExpectRefresh(CExpectation& panel) {
     ExpectModeKnown(panel);
     ExpectDeviceInformation(panel);
     panel.kept.packageVersion.clear();
-    if (panel.kept.mode != 1)
+    if (panel.kept.mode != 1) {
         panel.Warn(kWarning, kCaption);
+    }
     ExpectListing(panel);
     ExpectControlsEnabled(panel, true);
 }
@@ -146,8 +153,9 @@ void ExpectRefresh(CExpectation& panel) {
 }
 
 void ExpectTypeRead(CExpectation& panel) {
-    if (!panel.held.control)
+    if (!panel.held.control) {
         return;
+    }
     if (!panel.Call("ProgrammingDeviceControl.GetHardwareInfo")) {
         panel.Report("Failed to read the Programming Device hardware info", kCaption);
         return;
@@ -157,10 +165,11 @@ void ExpectTypeRead(CExpectation& panel) {
         return;
     }
     panel.kept.type = panel.Device().type;
-    if (panel.kept.type >= 1 && panel.kept.type <= 5)
+    if (panel.kept.type >= 1 && panel.kept.type <= 5) {
         ExpectRefresh(panel);
-    else
+    } else {
         panel.Warn("Wrong prommer type detected.", kCaption);
+    }
 }
 
 void ExpectControlsEnabled(CExpectation& panel, bool enable) {
@@ -168,12 +177,15 @@ void ExpectControlsEnabled(CExpectation& panel, bool enable) {
                                        "KRX-21 Info"};
     const std::int32_t type = panel.kept.type;
     panel.SetText(201, type >= 1 && type <= 5 ? kTitles[type - 1] : "KRX-unknown");
-    for (const panel::ControlId id : {245, 244, 246})
+    for (const panel::ControlId id : {245, 244, 246}) {
         panel.Enable(id, enable && !IsKrx8Family(panel));
-    for (const panel::ControlId id : {224, 226, 227, 228, 229})
+    }
+    for (const panel::ControlId id : {224, 226, 227, 228, 229}) {
         panel.Enable(id, enable);
-    if (!enable)
+    }
+    if (!enable) {
         panel.Enable(222, false);
+    }
 }
 
 }

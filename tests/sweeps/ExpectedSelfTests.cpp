@@ -63,8 +63,9 @@ bool ExpectResults(CExpectation& panel) {
     panel.kept.refreshAllowed = false;
     const bool isDone = panel.Call("ProgrammingDeviceControl.GetSelfTestResults");
     panel.kept.refreshAllowed = true;
-    if (!isDone)
+    if (!isDone) {
         panel.Report(kFailureText, "Prommer Maintenance");
+    }
     return isDone;
 }
 
@@ -72,22 +73,25 @@ bool ExpectResults(CExpectation& panel) {
 
 bool ExpectSelfTestQuery(CExpectation& panel) {
     panel.WriteLine("Querying self-tests results");
-    if (!ExpectResults(panel))
+    if (!ExpectResults(panel)) {
         return false;
+    }
     for (const Test& test : kTests) {
         if (!panel.Call(kResultQuery)) {
             panel.Report(kFailureText, "Prommer Maintenance");
             return false;
         }
-        if (!ResultOf(panel, test).hasPassed)
+        if (!ResultOf(panel, test).hasPassed) {
             return false;
+        }
     }
     return true;
 }
 
 void ExpectDetails(CExpectation& panel) {
-    if (!ExpectResults(panel))
+    if (!ExpectResults(panel)) {
         return;
+    }
     DialogRows rows;
     for (const Test& test : kTests) {
         if (!panel.Call(kResultQuery)) {

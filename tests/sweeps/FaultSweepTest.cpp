@@ -8,16 +8,18 @@ class FaultSweepTest : public SweepTest {};
 
 TEST_P(FaultSweepTest, EachFailingCallIsReportedAsDescribed) {
     InEachMode([](CSweep& sweep) {
-        for (std::size_t call = 1; call <= sweep.Calls().size(); ++call)
+        for (std::size_t call = 1; call <= sweep.Calls().size(); ++call) {
             sweep.Run({.spoilt = {{call, Spoiling::Failure}}});
+        }
     });
 }
 
 TEST_P(FaultSweepTest, EachNullObjectIsReportedAsDescribed) {
     InEachMode([](CSweep& sweep) {
         for (std::size_t call = 1; call <= sweep.Calls().size(); ++call) {
-            if (sweep.DeliversObject(call))
+            if (sweep.DeliversObject(call)) {
                 sweep.Run({.spoilt = {{call, Spoiling::Null}}});
+            }
         }
     });
 }
@@ -30,8 +32,9 @@ TEST_P(FaultSweepTest, FailureBehindTheLastCallIsNeverReached) {
 
 TEST_P(FaultSweepTest, FailingMessageServiceLeavesPlainBoxes) {
     CSweep sweep = SweepInMode(2);
-    for (std::size_t call = 1; call <= sweep.Calls().size(); ++call)
+    for (std::size_t call = 1; call <= sweep.Calls().size(); ++call) {
         sweep.Run({.spoilt = {{call, Spoiling::Failure}}, .failMessageService = true});
+    }
 }
 
 /// The second failure meets whatever the panel does after the first: its report, the steps that go
@@ -39,9 +42,10 @@ TEST_P(FaultSweepTest, FailingMessageServiceLeavesPlainBoxes) {
 TEST_P(FaultSweepTest, SecondFailureIsReportedAsDescribed) {
     CSweep sweep = SweepInMode(1);
     for (std::size_t call = 1; call <= sweep.Calls().size(); call += 3) {
-        for (const std::size_t later : {call + 1, call + 2, call + 3})
+        for (const std::size_t later : {call + 1, call + 2, call + 3}) {
             sweep.Run({.spoilt = {{call, Spoiling::Failure},
                                   {later, Spoiling::FailureWithoutDescription}}});
+        }
     }
 }
 

@@ -10,8 +10,9 @@ class LossSweepTest : public SweepTest {};
 /// answered fails until it is back.
 TEST_P(LossSweepTest, DeviceLostInsideEachCallIsReportedAsDescribed) {
     InEachMode([](CSweep& sweep) {
-        for (std::size_t call = 1; call <= sweep.Calls().size(); ++call)
+        for (std::size_t call = 1; call <= sweep.Calls().size(); ++call) {
             sweep.Run({.lossInCall = call});
+        }
     });
 }
 

@@ -76,8 +76,9 @@ CLines Describe(const Observation& seen) {
     AddEach(lines, "behind box", seen.behindBoxes, [](std::ostream& out, const Picture& picture) {
         CLines behind;
         behind.Add(picture);
-        for (const std::string& line : behind.All())
+        for (const std::string& line : behind.All()) {
             out << line << ", ";
+        }
     });
     AddEach(lines, "dialog", seen.dialogs, [](std::ostream& out, const DialogRows& rows) {
         for (const auto& [label, status] : rows) {
@@ -115,14 +116,17 @@ std::string Difference(const CLines& expected, const CLines& seen) {
 
 Picture FreshPicture() {
     Picture picture;
-    for (const panel::ControlId id : kTextControls)
+    for (const panel::ControlId id : kTextControls) {
         picture.texts[id] = "";
+    }
     picture.texts[panel::kInfoGroup] = "KRX-8 Info";
-    for (const panel::ControlId id : kSwitchedControls)
+    for (const panel::ControlId id : kSwitchedControls) {
         picture.enabled[id] = false;
-    for (const panel::ControlId id :
-         {panel::kIpAddressLabel, panel::kIpAddressField, panel::kHelpButton, panel::kCloseButton})
+    }
+    for (const panel::ControlId id : {panel::kIpAddressLabel, panel::kIpAddressField,
+                                      panel::kHelpButton, panel::kCloseButton}) {
         picture.enabled[id] = true;
+    }
     return picture;
 }
 

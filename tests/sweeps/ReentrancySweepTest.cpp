@@ -63,8 +63,9 @@ TEST_P(ReentrancySweepTest, AnythingInsideAReportIsHandledAtOnce) {
 TEST_P(ReentrancySweepTest, AnythingInsideAnOpenDialogIsHandledAtOnce) {
     CSweep sweep = SweepInMode(kNormalMode);
     for (const Event* event : EventsAndInterventions()) {
-        for (std::size_t dialog = 1; dialog <= sweep.Dialogs(); ++dialog)
+        for (std::size_t dialog = 1; dialog <= sweep.Dialogs(); ++dialog) {
             sweep.Run({.intrusion = Intrusion{Moment::WhileDialogOpen, dialog, event}});
+        }
     }
 }
 

@@ -29,30 +29,36 @@ std::string CSweep::Describe(const Plan& plan) const {
     std::string text = std::string(m_scenario.name) + ", model " + std::to_string(m_device.type) +
                        ", mode " + std::to_string(m_device.mode) + ": " + sweeps::Describe(plan);
     const auto name = [&](std::size_t call) {
-        if (call <= m_calls.size())
+        if (call <= m_calls.size()) {
             text += "(call " + std::to_string(call) + " is " + std::string(m_calls[call - 1]) + ")";
+        }
     };
-    for (const SpoiltCall& spoilt : plan.spoilt)
+    for (const SpoiltCall& spoilt : plan.spoilt) {
         name(spoilt.call);
-    if (plan.lossInCall)
+    }
+    if (plan.lossInCall) {
         name(*plan.lossInCall);
+    }
     if (plan.intrusion && (plan.intrusion->moment == Moment::BeforeCall ||
-                           plan.intrusion->moment == Moment::AfterCall))
+                           plan.intrusion->moment == Moment::AfterCall)) {
         name(plan.intrusion->number);
+    }
     return text;
 }
 
 void CSweep::Run(const Plan& plan) {
-    if (testing::Test::HasFailure())
+    if (testing::Test::HasFailure()) {
         return; // one failing run is told; the thousands after it would only bury it
+    }
     SCOPED_TRACE(Describe(plan));
     ++TheFigures().runs;
     Pair pair(m_device);
     Play(pair, {}, m_scenario.setUp);
-    if (!m_undisturbed)
+    if (!m_undisturbed) {
         Compare(pair, "setting up");
-    else
+    } else {
         pair.ForgetWhatWasSeen();
+    }
     Play(pair, plan, m_scenario.action);
     EXPECT_EQ(pair.actual.CallsSpoilt(), pair.expected.CallsSpoilt());
     TheFigures().callsSpoilt += plan.intrusion ? plan.spoilt.size() : pair.expected.CallsSpoilt();

@@ -20,8 +20,9 @@ CSweepPanel::CSweepPanel(const simulator::DeviceDescription& description)
 
 void CSweepPanel::Arrange(const Plan& plan, const std::vector<CExpectation::Prompt>& prompts) {
     faults->Clear();
-    for (const SpoiltCall& spoilt : plan.spoilt)
+    for (const SpoiltCall& spoilt : plan.spoilt) {
         Spoil(spoilt);
+    }
     if (plan.lossInCall) {
         faults->RunBefore({*plan.lossInCall}, [this] {
             RaiseState(contract::kSuccess, 5);
@@ -32,49 +33,57 @@ void CSweepPanel::Arrange(const Plan& plan, const std::vector<CExpectation::Prom
     m_boxesOpened = 0;
     m_dialogsOpened = 0;
     m_intrusion = plan.intrusion;
-    if (m_intrusion)
+    if (m_intrusion) {
         Arrange(*m_intrusion);
+    }
     for (const CExpectation::Prompt prompt : prompts) {
-        if (prompt == CExpectation::Prompt::PlainBox)
+        if (prompt == CExpectation::Prompt::PlainBox) {
             desktop->prompts.Answer(1, [this] { OnBoxOpen(); });
-        else
+        } else {
             desktop->prompts.AnswerDialog([this](auto& dialog) { OnDialogOpen(dialog); });
+        }
     }
 }
 
 void CSweepPanel::Spoil(const SpoiltCall& spoilt) {
     const bool isDescribed = spoilt.how == Spoiling::Failure;
-    if (spoilt.how == Spoiling::Null)
+    if (spoilt.how == Spoiling::Null) {
         faults->DeliverNull({spoilt.call});
-    else
+    } else {
         faults->Fail({spoilt.call}, {kFaultStatus, isDescribed ? kFaultDescription : ""});
+    }
 }
 
 void CSweepPanel::Arrange(const Intrusion& intrusion) {
     const auto intrude = [this, event = intrusion.event] { event->raise(*this); };
-    if (intrusion.moment == Moment::BeforeCall)
+    if (intrusion.moment == Moment::BeforeCall) {
         faults->RunBefore({intrusion.number}, intrude);
-    if (intrusion.moment == Moment::AfterCall)
+    }
+    if (intrusion.moment == Moment::AfterCall) {
         faults->RunAfter({intrusion.number}, intrude);
+    }
 }
 
 void CSweepPanel::OnBoxOpen() {
-    if (desktop->windows.PanelView())
+    if (desktop->windows.PanelView()) {
         m_behindBoxes.push_back(LookAtView());
+    }
     Intrude(Moment::WhileBoxOpen, ++m_boxesOpened);
 }
 
 void CSweepPanel::OnDialogOpen(headless::CHeadlessView& dialog) {
     DialogRows& rows = m_dialogs.emplace_back();
-    for (int row = 0; row < dialog.GetRowCount(panel::kSelfTestList); ++row)
+    for (int row = 0; row < dialog.GetRowCount(panel::kSelfTestList); ++row) {
         rows.emplace_back(dialog.GetCell(panel::kSelfTestList, row, 0),
                           dialog.GetCell(panel::kSelfTestList, row, 1));
+    }
     Intrude(Moment::WhileDialogOpen, ++m_dialogsOpened);
 }
 
 void CSweepPanel::Intrude(Moment moment, std::size_t number) {
-    if (m_intrusion && m_intrusion->moment == moment && m_intrusion->number == number)
+    if (m_intrusion && m_intrusion->moment == moment && m_intrusion->number == number) {
         m_intrusion->event->raise(*this);
+    }
 }
 
 // What is seen
@@ -94,21 +103,25 @@ Observation CSweepPanel::Take() {
         seen.log = Log();
         seen.picture = LookAtView();
     }
-    if (panel)
+    if (panel) {
         seen.kept = LookAtState();
+    }
     return seen;
 }
 
 Picture CSweepPanel::LookAtView() {
     const headless::CHeadlessView& view = View();
     Picture picture;
-    for (const panel::ControlId id : kTextControls)
+    for (const panel::ControlId id : kTextControls) {
         picture.texts[id] = view.GetText(id);
-    for (const panel::ControlId id : kSwitchedControls)
+    }
+    for (const panel::ControlId id : kSwitchedControls) {
         picture.enabled[id] = view.IsEnabled(id);
+    }
     picture.isCloseVisible = view.IsVisible(panel::kCloseButton);
-    for (int row = 0; row < RowCount(); ++row)
+    for (int row = 0; row < RowCount(); ++row) {
         picture.rows.push_back({Row(row), view.GetRowKey(panel::kFileList, row)});
+    }
     picture.selection = view.GetSelectedRows(panel::kFileList);
     picture.mark = view.GetSelectionMark(panel::kFileList);
     return picture;
@@ -130,8 +143,9 @@ Kept CSweepPanel::LookAtState() const {
 // IStage
 
 void CSweepPanel::SetContextAndRegister() {
-    if (panel)
+    if (panel) {
         Note(panel->SetContextAndRegister(interception.Wrap(host.Context())));
+    }
 }
 
 void CSweepPanel::SetOtherContext() {
@@ -147,23 +161,27 @@ void CSweepPanel::SetOtherContextAndRegister() {
 }
 
 void CSweepPanel::CreateView() {
-    if (panel)
+    if (panel) {
         Note(panel->CreateView(nullptr));
+    }
 }
 
 void CSweepPanel::SetSubsystemAccess() {
-    if (panel)
+    if (panel) {
         Note(panel->SetSubsystemAccess(interception.Wrap(host.SubsystemAccess())));
+    }
 }
 
 void CSweepPanel::SetOtherSubsystemAccess() {
-    if (panel)
+    if (panel) {
         Note(panel->SetSubsystemAccess(interception.Wrap(m_otherAccess)));
+    }
 }
 
 void CSweepPanel::SetConnection() {
-    if (panel)
+    if (panel) {
         Note(panel->SetConnection(interception.Wrap(host.Connection())));
+    }
 }
 
 void CSweepPanel::SetOtherConnection() {
@@ -173,18 +191,21 @@ void CSweepPanel::SetOtherConnection() {
 }
 
 void CSweepPanel::SetNoConnection() {
-    if (panel)
+    if (panel) {
         Note(panel->SetConnection(nullptr));
+    }
 }
 
 void CSweepPanel::Go() {
-    if (panel)
+    if (panel) {
         Note(panel->Go());
+    }
 }
 
 void CSweepPanel::DestroyView() {
-    if (panel)
+    if (panel) {
         panel->DestroyView();
+    }
 }
 
 void CSweepPanel::RaiseState(contract::Status status, std::int32_t state) {
@@ -197,8 +218,9 @@ void CSweepPanel::RaiseMessage(const std::string& text, std::uint32_t done, std:
 
 void CSweepPanel::InsertDevice() {
     m_loss->isLost = false;
-    if (!host.Device())
+    if (!host.Device()) {
         host.InsertDevice(m_device);
+    }
 }
 
 void CSweepPanel::LoseDevice() {
@@ -207,8 +229,9 @@ void CSweepPanel::LoseDevice() {
 }
 
 void CSweepPanel::PressButton(panel::ControlId id) {
-    if (panel && desktop->windows.PanelView())
+    if (panel && desktop->windows.PanelView()) {
         View().Press(id);
+    }
 }
 
 }

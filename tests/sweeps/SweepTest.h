@@ -27,9 +27,11 @@ struct Setting {
 
 inline std::vector<Setting> Settings() {
     std::vector<Setting> settings;
-    for (const Scenario& scenario : Scenarios())
-        for (const std::int32_t model : scenario.models)
+    for (const Scenario& scenario : Scenarios()) {
+        for (const std::int32_t model : scenario.models) {
             settings.push_back({&scenario, model});
+        }
+    }
     return settings;
 }
 
