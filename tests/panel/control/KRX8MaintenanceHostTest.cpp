@@ -97,6 +97,36 @@ TEST_F(KRX8MaintenanceHostTest, StartSignalOfADeviceThatFailsStillSucceeds) {
     EXPECT_EQ(TakeMessages().size(), 1u);
 }
 
+// Another context
+
+TEST_F(KRX8MaintenanceHostTest, LatestContextIsAskedToCloseAndToShow) {
+    const auto otherControl = std::make_shared<CHostViewControlDouble>();
+    const auto otherService = std::make_shared<CMessageServiceDouble>();
+    CHost other({.areApplied = false});
+    other.SetHostViewControl(otherControl);
+    other.SetMessageService(otherService);
+    StartPanel();
+    ASSERT_EQ(panel->SetContext(other.Context()), contract::kSuccess);
+    EXPECT_TRUE(PressButton(230));
+    ConnectDevice(6);
+    EXPECT_EQ(otherControl->closeRequests, 1);
+    EXPECT_EQ(viewControl->closeRequests, 0);
+    EXPECT_THAT(otherService->shown,
+                ElementsAre(WarningBox("Wrong prommer type detected.", "Prommer Maintenance")));
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(KRX8MaintenanceHostTest, ContextWithoutViewControlLeavesTheViewAsItIs) {
+    CHost other({.areApplied = false});
+    StartPanel();
+    ASSERT_EQ(panel->SetContext(other.Context()), contract::kSuccess);
+    EXPECT_TRUE(View().IsVisible(230));
+    EXPECT_TRUE(PressButton(230));
+    EXPECT_EQ(viewControl->closeRequests, 0);
+    ConnectDevice(kKrx20);
+    EXPECT_EQ(RowCount(), 3);
+}
+
 // Connection states
 
 TEST_F(KRX8MaintenanceHostTest, ReadyStateClearsTheLogBeforeItReads) {
@@ -120,6 +150,20 @@ TEST_F(KRX8MaintenanceHostTest, ReadyStateWithoutControlClearsTheLogSilently) {
     RaiseState(7);
     EXPECT_THAT(Log(), IsEmpty());
     EXPECT_THAT(TakeCalls(), IsEmpty());
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(KRX8MaintenanceHostTest, SignalsAfterAFailedAccessTryNothingAnew) {
+    StartView();
+    InsertDevice(kKrx20);
+    faults->Fail({1, "SubsystemAccess.GetSubsystem"});
+    EXPECT_TRUE(panel->SetSubsystemAccess(interception.Wrap(host.SubsystemAccess())).IsFailure());
+    ASSERT_EQ(panel->SetConnection(interception.Wrap(host.Connection())), contract::kSuccess);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    TakeCalls();
+    RaiseState(7);
+    EXPECT_EQ(panel->Go(), contract::kSuccess);
+    EXPECT_THAT(TakeCalls(), ElementsAre("ConnectionState.IsConnected"));
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }
 
