@@ -21,7 +21,8 @@ constexpr auto kWholeRows = QItemSelectionModel::Rows;
 
 }
 
-CListView::CListView(Selection selection, QWidget* parent) : QTableView(parent) {
+CListView::CListView(Selection selection, QWidget* parent)
+    : QTableView(parent), m_aboveScrollBar(*new QWidget) {
     setModel(&m_model);
     setSelectionMode(selection == Selection::Single ? SingleSelection : ExtendedSelection);
     setSelectionBehavior(SelectRows);
@@ -36,6 +37,7 @@ void CListView::SetUpLook() {
     setWordWrap(false);
     setCornerButtonEnabled(false);
     setHorizontalScrollMode(ScrollPerPixel);
+    addScrollBarWidget(&m_aboveScrollBar, Qt::AlignTop);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->hide();
@@ -167,6 +169,17 @@ void CListView::updateGeometries() {
     setHorizontalScrollBarPolicy(excess <= kToleratedExcessPixels ? Qt::ScrollBarAlwaysOff
                                                                   : Qt::ScrollBarAsNeeded);
     QTableView::updateGeometries();
+    SpreadHeader();
+}
+
+// The heading of the last column must not be cut by the scroll bar, so that the bar begins below
+// the header, which reaches over it.
+void CListView::SpreadHeader() {
+    QRect place = horizontalHeader()->geometry();
+    m_aboveScrollBar.setFixedHeight(place.height());
+    place.setRight(width() - 1 - frameWidth());
+    horizontalHeader()->setGeometry(place);
+    horizontalHeader()->raise();
 }
 
 void CListView::timerEvent(QTimerEvent* event) {

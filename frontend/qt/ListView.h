@@ -62,6 +62,7 @@ private:
     bool HasRow(int row) const { return row >= 0 && row < GetRowCount(); }
     bool HasCell(int row, int column) const;
     void SetUpLook();
+    void SpreadHeader();
     void ShowWholeCell(const QHelpEvent& event) const;
     void ScheduleUpdate();
     void StartTimer();
@@ -71,6 +72,7 @@ private:
     QItemSelection RowsBetween(int first, int last) const;
 
     CListModel m_model;
+    QWidget& m_aboveScrollBar;
     QPersistentModelIndex m_mark;
     bool m_extendsSelection = false; // a range is added to what is selected, by Ctrl with Shift
     // Rows that SelectRow was called for in ascending order, not yet in the selection model, whose

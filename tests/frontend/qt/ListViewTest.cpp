@@ -160,6 +160,17 @@ TEST_F(ListViewTest, VerticalScrollBarBringsNoHorizontalOne) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_list.horizontalScrollBar()->isVisible(); }));
 }
 
+TEST_F(ListViewTest, LastHeadingIsWholeAboveTheScrollBar) {
+    Fill(100);
+    const QWidget& bar = *m_list.verticalScrollBar();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }));
+    const QHeaderView& header = *m_list.horizontalHeader();
+    EXPECT_LT(m_list.viewport()->width(), 489);
+    EXPECT_GE(header.viewport()->width(), 489) << "the sum of the columns";
+    EXPECT_GT(bar.mapTo(&m_list, QPoint()).y(), header.geometry().bottom());
+    EXPECT_FALSE(bar.visibleRegion().isEmpty());
+}
+
 TEST_F(ListViewTest, ToolTipShowsTheWholeOfACutTextOnly) {
     Fill(2);
     m_list.SetCell(1, 0, "a<b>name</b>that-is-too-long-for-its-column");
