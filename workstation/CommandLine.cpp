@@ -31,9 +31,11 @@ public:
     explicit CParser(const std::vector<std::string>& arguments) : m_arguments(arguments) {}
 
     std::variant<Options, CommandLineError> Parse() {
-        while (m_next < m_arguments.size())
-            if (auto reason = ParseOption(m_arguments[m_next++]))
+        while (m_next < m_arguments.size()) {
+            if (auto reason = ParseOption(m_arguments[m_next++])) {
                 return CommandLineError{*reason};
+            }
+        }
         return m_options;
     }
 
@@ -41,27 +43,32 @@ private:
     using Reason = std::optional<std::string>;
 
     Reason ParseOption(const std::string& argument) {
-        for (const FlagOption& option : kFlagOptions)
+        for (const FlagOption& option : kFlagOptions) {
             if (argument == option.name) {
                 m_options.*option.flag = true;
                 return {};
             }
+        }
         const std::size_t equals = argument.find('=');
         const std::string name = argument.substr(0, equals);
-        for (const ValueOption& option : kValueOptions)
-            if (name == option.name)
+        for (const ValueOption& option : kValueOptions) {
+            if (name == option.name) {
                 return ParseValue(option, argument, equals);
+            }
+        }
         const bool isOption = argument.starts_with('-');
         return (isOption ? "unknown option '" : "unexpected argument '") + argument + "'";
     }
 
     Reason ParseValue(const ValueOption& option, const std::string& argument, std::size_t equals) {
         const bool isAttached = equals != std::string::npos;
-        if (!isAttached && m_next == m_arguments.size())
+        if (!isAttached && m_next == m_arguments.size()) {
             return "option " + argument + " needs a value";
+        }
         const std::string value = isAttached ? argument.substr(equals + 1) : m_arguments[m_next++];
-        if (value.empty())
+        if (value.empty()) {
             return "option " + std::string(option.name) + " has an empty value";
+        }
         m_options.*option.value = value;
         return {};
     }

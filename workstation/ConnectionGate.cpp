@@ -44,8 +44,9 @@ contract::Status CConnectionGate::Deliver(const interception::Operation&,
 }
 
 bool CConnectionGate::event(QEvent* event) {
-    if (event->type() != QEvent::User)
+    if (event->type() != QEvent::User) {
         return QObject::event(event);
+    }
     RunWaiting();
     return true;
 }
@@ -69,10 +70,12 @@ void CConnectionGate::RunWaiting() {
         const QScopedValueRollback running(m_isRunning, true);
         TakeFirst()();
     }
-    if (m_timer != 0)
+    if (m_timer != 0) {
         killTimer(std::exchange(m_timer, 0));
-    if (HasWaiting())
+    }
+    if (HasWaiting()) {
         m_timer = startTimer(kLookAgainMs);
+    }
 }
 
 }

@@ -21,8 +21,9 @@ bool CDeviceCall::Wait(std::chrono::milliseconds limit) {
 
 std::optional<CDeviceCall::Event> CDeviceCall::TakeEvent() {
     const std::lock_guard lock(m_mutex);
-    if (m_events.empty())
+    if (m_events.empty()) {
         return std::nullopt;
+    }
     Event event = std::move(m_events.front());
     m_events.pop_front();
     return event;
@@ -30,8 +31,9 @@ std::optional<CDeviceCall::Event> CDeviceCall::TakeEvent() {
 
 contract::Status CDeviceCall::Finish() {
     // Also an empty one: what a handler of the call's events left here is not this call's.
-    if (m_status.IsFailure())
+    if (m_status.IsFailure()) {
         contract::SetErrorInfo(m_description);
+    }
     return m_status;
 }
 
@@ -41,15 +43,17 @@ void CDeviceCall::Run() {
     const contract::Status status = (*m_run)();
     std::unique_lock lock(m_mutex);
     m_status = status;
-    if (status.IsFailure())
+    if (status.IsFailure()) {
         m_description = contract::TakeErrorInfo();
+    }
     m_hasEnded = true;
     const bool mustWake = m_mustWake;
     lock.unlock();
     // Without the lock, or the caller would wake only to wait for it.
     m_ended.notify_one();
-    if (mustWake)
+    if (mustWake) {
         m_wake();
+    }
 }
 
 void CDeviceCall::AddEvent(Event event) {
@@ -57,8 +61,9 @@ void CDeviceCall::AddEvent(Event event) {
     m_events.push_back(std::move(event));
     const bool mustWake = m_mustWake;
     lock.unlock();
-    if (mustWake)
+    if (mustWake) {
         m_wake();
+    }
 }
 
 }

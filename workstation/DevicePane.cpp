@@ -44,8 +44,9 @@ CDevicePane::CDevicePane(QWidget* parent)
     auto* const column = new QVBoxLayout(this);
     for (QWidget* widget :
          {static_cast<QWidget*>(label), static_cast<QWidget*>(&m_list),
-          static_cast<QWidget*>(&m_connectButton), static_cast<QWidget*>(&m_disconnectButton)})
+          static_cast<QWidget*>(&m_connectButton), static_cast<QWidget*>(&m_disconnectButton)}) {
         column->addWidget(widget);
+    }
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     connect(&m_list, &QListWidget::itemActivated, [this] { ConnectCurrent(); });
     connect(&m_list, &QListWidget::currentRowChanged, [this] { UpdateButtons(); });
@@ -69,16 +70,19 @@ void CDevicePane::ShowDevices(const std::vector<Folder>& folders) {
     const QListWidgetItem* const before = m_list.currentItem();
     const Folder chosen = before ? FolderOf(*before) : Folder();
     m_list.clear();
-    for (const Folder& folder : folders)
+    for (const Folder& folder : folders) {
         m_list.addItem(ItemOf(folder));
+    }
     Choose(chosen);
     Mark(m_connected, m_isGone);
 }
 
 void CDevicePane::Choose(const Folder& folder) {
-    for (int row = 0; row < m_list.count(); ++row)
-        if (FolderOf(*m_list.item(row)) == folder)
+    for (int row = 0; row < m_list.count(); ++row) {
+        if (FolderOf(*m_list.item(row)) == folder) {
             m_list.setCurrentRow(row);
+        }
+    }
 }
 
 void CDevicePane::Mark(const Folder& connected, bool isGone) {

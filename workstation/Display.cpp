@@ -20,15 +20,17 @@ std::string Environment(const char* name) {
 // The toolkit ends the program when a display does not answer or refuses the user, so it is asked
 // first, by the library that the toolkit's own plugin uses (xcb.h of libxcb 1.15).
 bool HasX11() {
-    if (Environment("DISPLAY").empty())
+    if (Environment("DISPLAY").empty()) {
         return false;
+    }
     QLibrary xcb("xcb", 1);
     using Connect = void* (*)(const char* display, int* screen);
     const auto connect = reinterpret_cast<Connect>(xcb.resolve("xcb_connect"));
     const auto hasError = reinterpret_cast<int (*)(void*)>(xcb.resolve("xcb_connection_has_error"));
     const auto disconnect = reinterpret_cast<void (*)(void*)>(xcb.resolve("xcb_disconnect"));
-    if (!connect || !hasError || !disconnect)
+    if (!connect || !hasError || !disconnect) {
         return false;
+    }
     void* const connection = connect(nullptr, nullptr);
     const bool answers = hasError(connection) == 0;
     disconnect(connection);
@@ -45,8 +47,9 @@ bool HasWayland() {
 
 bool HasDisplay() {
     const std::string platform = Environment("QT_QPA_PLATFORM");
-    if (!platform.empty())
+    if (!platform.empty()) {
         return !platform.starts_with("offscreen") && !platform.starts_with("minimal");
+    }
     return HasX11() || HasWayland();
 }
 

@@ -16,8 +16,9 @@ std::function<void()> Watch(Object& object, const std::shared_ptr<Events>& sink)
     std::uint32_t cookie = contract::kNotSubscribed;
     if (object.QueryBaseObject(base).IsFailure() || !base ||
         base->FindEventSource(source).IsFailure() || !source ||
-        source->Subscribe(sink, cookie).IsFailure())
+        source->Subscribe(sink, cookie).IsFailure()) {
         return {};
+    }
     return [source, cookie] { static_cast<void>(source->Unsubscribe(cookie)); };
 }
 

@@ -85,10 +85,12 @@ void CMainWindow::CallLasts(const interception::Operation& operation) {
 }
 
 void CMainWindow::CallReturned(const interception::Operation& operation) {
-    if (operation.name == kSwitchPolling)
+    if (operation.name == kSwitchPolling) {
         m_status.ShowPolling(m_panelHost->IsPolling());
-    if (std::exchange(m_hasLastingCall, false))
+    }
+    if (std::exchange(m_hasLastingCall, false)) {
         m_status.EndOperation();
+    }
 }
 
 void CMainWindow::ConnectionChanged() {
@@ -135,14 +137,16 @@ void CMainWindow::Connect(const std::filesystem::path& folder) {
 
 void CMainWindow::ListDevices() {
     auto folders = simulator::ListDevices(m_root);
-    if (!m_given.empty() && std::ranges::find(folders, m_given) == folders.end())
+    if (!m_given.empty() && std::ranges::find(folders, m_given) == folders.end()) {
         folders.insert(folders.begin(), m_given);
+    }
     m_devices.ShowDevices(folders);
 }
 
 void CMainWindow::CloseWhenIdle() {
-    if (std::exchange(m_mustClose, true))
+    if (std::exchange(m_mustClose, true)) {
         return;
+    }
     m_panelHost->RunWhenIdle([this] {
         m_mayClose = true;
         close();

@@ -22,14 +22,16 @@ constexpr std::string_view kScreens =
 COffscreen::COffscreen() : m_screenFile(memfd_create("krx8-screens", MFD_CLOEXEC)) {
     QByteArray platform("offscreen");
     const auto size = static_cast<ssize_t>(kScreens.size());
-    if (m_screenFile >= 0 && write(m_screenFile, kScreens.data(), kScreens.size()) == size)
+    if (m_screenFile >= 0 && write(m_screenFile, kScreens.data(), kScreens.size()) == size) {
         platform += ":configfile=/proc/self/fd/" + QByteArray::number(m_screenFile);
+    }
     qputenv("QT_QPA_PLATFORM", platform);
 }
 
 COffscreen::~COffscreen() {
-    if (m_screenFile >= 0)
+    if (m_screenFile >= 0) {
         close(m_screenFile);
+    }
 }
 
 }

@@ -27,8 +27,9 @@ QSize CPanelArea::sizeHint() const {
 }
 
 bool CPanelArea::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == widget() && event->type() == QEvent::Resize && m_onResized)
+    if (watched == widget() && event->type() == QEvent::Resize && m_onResized) {
         m_onResized(widget()->size());
+    }
     return QScrollArea::eventFilter(watched, event);
 }
 

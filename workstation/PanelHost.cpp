@@ -39,8 +39,9 @@ public:
     explicit CConnectionSink(CPanelHost& panelHost) : m_panelHost(panelHost) {}
 
     Status ConnectionStateChanged(Status status, std::int32_t state) override {
-        if (status.IsSuccess())
+        if (status.IsSuccess()) {
             m_panelHost.OnConnectionState(state);
+        }
         return kSuccess;
     }
     Status Event2(std::int32_t, std::int32_t) override { return kSuccess; }
@@ -79,9 +80,11 @@ CPanelHost::CPanelHost(std::shared_ptr<contract::IPanel> panel, IPanelHostObserv
 }
 
 CPanelHost::~CPanelHost() {
-    for (const auto& unwatch : {m_unwatchConnection, m_unwatchProgress})
-        if (unwatch)
+    for (const auto& unwatch : {m_unwatchConnection, m_unwatchProgress}) {
+        if (unwatch) {
             unwatch();
+        }
+    }
     m_panel->DestroyView();
 }
 
@@ -138,8 +141,9 @@ void CPanelHost::HandOver(const std::string& name, std::shared_ptr<simulator::CD
 }
 
 void CPanelHost::Swap(const std::string& name, std::shared_ptr<simulator::CDevice> device) {
-    if (m_isConnected)
+    if (m_isConnected) {
         Raise(contract::kConnectionDeviceGone);
+    }
     m_host.RemoveDevice();
     m_deviceName.clear();
     if (device) {
@@ -162,8 +166,9 @@ void CPanelHost::Raise(std::int32_t state) {
 }
 
 void CPanelHost::OnConnectionState(std::int32_t state) {
-    if (state != contract::kConnectionDeviceGone && state != contract::kConnectionDeviceReady)
+    if (state != contract::kConnectionDeviceGone && state != contract::kConnectionDeviceReady) {
         return;
+    }
     m_isConnected = state == contract::kConnectionDeviceReady;
     m_observer.ConnectionChanged();
 }
@@ -179,8 +184,9 @@ void CPanelHost::WatchProgress() {
     std::shared_ptr<contract::IProgrammingDeviceControl> control;
     if (m_access->GetSubsystem(contract::kProgrammingDeviceSubsystem, subsystem).IsFailure() ||
         !subsystem || subsystem->QueryProgrammingDeviceSubsystem(devices).IsFailure() || !devices ||
-        devices->get_ProgrammingDeviceControl(control).IsFailure() || !control)
+        devices->get_ProgrammingDeviceControl(control).IsFailure() || !control) {
         return;
+    }
     m_unwatchProgress = Watch<contract::_IProgrammingDeviceControlEvents>(
         *control, std::make_shared<CProgressSink>(m_observer));
 }

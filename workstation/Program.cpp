@@ -38,8 +38,9 @@ struct Refusal {
 
 Options ReadCommandLine(int argc, char** argv) {
     const auto parsed = ParseCommandLine({argv + 1, argv + argc});
-    if (const auto* error = std::get_if<CommandLineError>(&parsed))
+    if (const auto* error = std::get_if<CommandLineError>(&parsed)) {
         throw Refusal{error->reason + "; --help lists the options"};
+    }
     return std::get<Options>(parsed);
 }
 
@@ -50,42 +51,50 @@ Path Normal(const Path& path) {
 }
 
 std::optional<OpenedDevice> OpenGivenDevice(const Path& folder) {
-    if (folder.empty())
+    if (folder.empty()) {
         return {};
+    }
     const auto opened = simulator::OpenDevice(folder);
-    if (const auto* error = std::get_if<simulator::DescriptionError>(&opened))
+    if (const auto* error = std::get_if<simulator::DescriptionError>(&opened)) {
         throw Refusal{error->Message()};
+    }
     return OpenedDevice{Normal(folder), std::get<0>(opened)};
 }
 
 Path RootOf(const Options& options) {
-    if (options.devices.empty())
+    if (options.devices.empty()) {
         return options.device.empty() ? Path() : Normal(options.device).parent_path();
+    }
     std::error_code error;
     const std::filesystem::directory_iterator entries(options.devices, error);
-    if (error)
+    if (error) {
         throw Refusal{simulator::EscapeForMessage(options.devices.string()) +
                       ": cannot be read: " + error.message()};
+    }
     return Normal(options.devices);
 }
 
 void Print(const std::string& text) {
-    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0)
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() ||
+        std::fflush(stdout) != 0) {
         throw Refusal{"cannot write to the standard output: " +
                       std::generic_category().message(errno)};
+    }
 }
 
 void WritePicture(QWidget& window, const Path& file) {
     QSaveFile picture(QString::fromStdString(file.string()));
     if (!picture.open(QIODevice::WriteOnly) || !window.grab().save(&picture, "PNG") ||
-        !picture.commit())
+        !picture.commit()) {
         throw Refusal{file.string() +
                       ": cannot be written: " + picture.errorString().toStdString()};
+    }
 }
 
 void WaitUntilIdle(CMainWindow& window) {
-    while (!window.IsIdle())
+    while (!window.IsIdle()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
 }
 
 int RunWithoutUser(CMainWindow& window, const Options& options) {
@@ -94,8 +103,9 @@ int RunWithoutUser(CMainWindow& window, const Options& options) {
     window.show();
     WaitUntilIdle(window);
     Print(boxes);
-    if (options.text)
+    if (options.text) {
         Print(headless::FormatTextPicture(ReadPanelPicture(window.PanelHolder())));
+    }
     if (!options.snapshot.empty()) {
         WritePicture(window, options.snapshot);
         Print("The window is drawn in " + options.snapshot.string() + "\n");
@@ -131,8 +141,9 @@ int RunWindow(int argc, char** argv, const Options& options, const Start& start)
     UseFontOfThePanel();
     CMainWindow window(CreatePanel(), start.root);
     window.Start(start.device);
-    if (!HasUser(options))
+    if (!HasUser(options)) {
         return RunWithoutUser(window, options);
+    }
     window.show();
     return QApplication::exec();
 }
@@ -146,11 +157,13 @@ int Run(int argc, char** argv) {
     // Before anything is said or drawn, so that a refusal is all there is.
     const Start start{OpenGivenDevice(options.device), RootOf(options)};
     FilterToolkitMessages();
-    if (HasUser(options) && !HasDisplay())
+    if (HasUser(options) && !HasDisplay()) {
         FallBack(options);
+    }
     std::optional<COffscreen> offscreen;
-    if (!HasUser(options))
+    if (!HasUser(options)) {
         offscreen.emplace();
+    }
     return RunWindow(argc, argv, options, start);
 }
 

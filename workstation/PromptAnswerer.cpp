@@ -18,8 +18,9 @@ namespace {
 
 std::string Describe(const QMessageBox& box, const QAbstractButton& answer) {
     std::string text = "Box \"" + box.windowTitle().toStdString() + "\":\n";
-    for (const QString& line : box.text().split('\n'))
+    for (const QString& line : box.text().split('\n')) {
         text += "    " + line.trimmed().toStdString() + "\n";
+    }
     return text + "Answered: " + WithoutMnemonic(answer.text()) + "\n";
 }
 
@@ -35,20 +36,22 @@ bool CPromptAnswerer::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show && window && window->isWindow() && window != &m_mainWindow) {
         // Not from inside its own showing: it has no event loop to end yet.
         QTimer::singleShot(0, this, [this, shown = QPointer<QWidget>(window)] {
-            if (shown)
+            if (shown) {
                 Answer(*shown);
+            }
         });
     }
     return false;
 }
 
 void CPromptAnswerer::Answer(QWidget& window) {
-    if (auto* const box = qobject_cast<QMessageBox*>(&window))
+    if (auto* const box = qobject_cast<QMessageBox*>(&window)) {
         AnswerBox(*box);
-    else if (auto* const dialog = qobject_cast<QDialog*>(&window))
+    } else if (auto* const dialog = qobject_cast<QDialog*>(&window)) {
         dialog->reject();
-    else
+    } else {
         window.close();
+    }
 }
 
 void CPromptAnswerer::AnswerBox(QMessageBox& box) {

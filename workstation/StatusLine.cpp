@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QProgressBar>
 
+#include <algorithm>
+
 namespace workstation {
 
 namespace {
@@ -52,10 +54,11 @@ CStatusLine::CStatusLine(QWidget* parent)
 }
 
 void CStatusLine::ShowDevice(const QString& name, bool isConnected) {
-    if (name.isEmpty())
+    if (name.isEmpty()) {
         m_device.setText("No device connected");
-    else
+    } else {
         m_device.setText(name + (isConnected ? " connected" : " does not answer"));
+    }
 }
 
 void CStatusLine::ShowPolling(bool isOn) {

@@ -15,8 +15,9 @@ std::string DescribeOperation(std::string_view operation) {
     std::string words;
     for (const char letter : operation.substr(operation.find('.') + 1)) {
         const auto byte = static_cast<unsigned char>(letter);
-        if (letter == '_')
+        if (letter == '_') {
             continue;
+        }
         if (words.empty()) {
             words += static_cast<char>(std::toupper(byte));
         } else if (std::isupper(byte)) {
@@ -32,8 +33,9 @@ std::string DescribeOperation(std::string_view operation) {
 std::string WithoutMnemonic(const QString& text) {
     QString shown;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == '&' && ++i == text.size())
+        if (text[i] == '&' && ++i == text.size()) {
             break;
+        }
         shown += text[i];
     }
     return shown.toStdString();

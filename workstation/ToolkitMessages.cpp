@@ -18,12 +18,15 @@ constexpr const char* kIdle[] = {
 };
 
 void Forward(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    for (const char* idle : kIdle)
-        if (message.startsWith(idle))
+    for (const char* idle : kIdle) {
+        if (message.startsWith(idle)) {
             return;
+        }
+    }
     std::fprintf(stderr, "krx8-workstation: %s\n", qPrintable(message));
-    if (type == QtFatalMsg)
+    if (type == QtFatalMsg) {
         std::abort();
+    }
 }
 
 }

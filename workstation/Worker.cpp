@@ -40,8 +40,9 @@ void CWorker::Run() {
 CDeviceCall* CWorker::Next() {
     std::unique_lock lock(m_mutex);
     m_changed.wait(lock, [this] { return m_mustEnd || !m_started.empty(); });
-    if (m_started.empty())
+    if (m_started.empty()) {
         return nullptr;
+    }
     CDeviceCall* call = m_started.front();
     m_started.pop_front();
     return call;

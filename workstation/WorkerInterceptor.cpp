@@ -43,14 +43,16 @@ CWorkerInterceptor::~CWorkerInterceptor() = default;
 
 contract::Status CWorkerInterceptor::Call(const interception::Operation& operation,
                                           interception::FunctionRef<contract::Status()> run) {
-    if (std::this_thread::get_id() != m_callerThread)
+    if (std::this_thread::get_id() != m_callerThread) {
         return run();
+    }
     CDeviceCall& call = CallAtDepth(m_depth);
     const CDepthScope depth(m_depth);
     call.Begin(run);
     m_worker.Start(call);
-    if (Clock::now() - m_lastPaint > m_limits.paintInterval)
+    if (Clock::now() - m_lastPaint > m_limits.paintInterval) {
         HandleEvents(false);
+    }
     if (!call.Wait(m_limits.shortCall)) {
         m_observer.CallLasts(operation);
         WaitPainting(call);
@@ -63,8 +65,9 @@ contract::Status CWorkerInterceptor::Call(const interception::Operation& operati
 contract::Status CWorkerInterceptor::Deliver(const interception::Operation&,
                                              std::function<contract::Status()> deliver) {
     CDeviceCall* const call = CWorker::CurrentCall();
-    if (!call)
+    if (!call) {
         return deliver();
+    }
     call->AddEvent(std::move(deliver));
     return contract::kSuccess;
 }

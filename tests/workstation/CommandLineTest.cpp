@@ -76,8 +76,9 @@ TEST_F(CommandLineTest, OptionWithoutItsValueIsNamed) {
 TEST_F(CommandLineTest, HelpNamesEveryOption) {
     const std::string help = workstation::HelpText();
     for (const char* option : {"--device FOLDER", "--devices ROOT", "--snapshot FILE.png", "--text",
-                               "--fallback FILE.png", "--help"})
+                               "--fallback FILE.png", "--help"}) {
         EXPECT_NE(help.find(std::string("  ") + option + "  "), std::string::npos) << option;
+    }
 }
 
 }

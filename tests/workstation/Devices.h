@@ -18,7 +18,7 @@ inline simulator::DeviceDescription HealthyDevice(int fileCount = 2) {
     description.software.serviceFpga = "2.0";
     description.network.ipAddress = "192.0.2.7";
     description.network.macAddress = "00-00-5E-00-53-07";
-    for (int i = 1; i <= fileCount; ++i)
+    for (int i = 1; i <= fileCount; ++i) {
         description.files.push_back({"file" + std::to_string(i) + ".fg",
                                      21,
                                      i,
@@ -27,6 +27,7 @@ inline simulator::DeviceDescription HealthyDevice(int fileCount = 2) {
                                      simulator::kInFlash,
                                      3,
                                      {}});
+    }
     return description;
 }
 

@@ -35,9 +35,10 @@ using workstation::OpenedDevice;
 class MainWindowTest : public testing::Test {
 protected:
     MainWindowTest() {
-        for (const char* sample : {"krx-20", "krx-8"})
+        for (const char* sample : {"krx-20", "krx-8"}) {
             std::filesystem::copy(std::filesystem::path(KRX8_SAMPLES) / sample, Root() / sample,
                                   std::filesystem::copy_options::recursive);
+        }
         m_window = std::make_unique<workstation::CMainWindow>(workstation::CreatePanel(), Root());
         m_answerer = std::make_unique<workstation::CPromptAnswerer>(
             *m_window, [this](const std::string& box) { m_boxes.push_back(box); });
@@ -181,8 +182,9 @@ TEST_F(MainWindowTest, CloseDuringARefreshWaitsForItsEnd) {
     bool wasRefused = false;
     QTimer trial;
     QObject::connect(&trial, &QTimer::timeout, [&] {
-        if (StatusText("operation").find("Get file listing") == std::string::npos)
+        if (StatusText("operation").find("Get file listing") == std::string::npos) {
             return;
+        }
         trial.stop();
         wasRefused = !m_window->close() && m_window->isVisible();
     });
@@ -232,16 +234,20 @@ TEST_F(MainWindowTest, SmallerWindowScrollsThePanel) {
 TEST_F(MainWindowTest, NoTwoMnemonicsAreTheSame) {
     std::map<std::string, std::vector<std::string>> users;
     const auto note = [&](const QString& text) {
-        if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty())
+        if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty()) {
             users[key.toString().toStdString()].push_back(text.toStdString());
+        }
     };
-    for (const QPushButton* button : m_window->findChildren<QPushButton*>())
+    for (const QPushButton* button : m_window->findChildren<QPushButton*>()) {
         note(button->text());
-    for (const QLabel* label : m_window->findChildren<QLabel*>())
+    }
+    for (const QLabel* label : m_window->findChildren<QLabel*>()) {
         note(label->text());
+    }
     EXPECT_GE(users.size(), 11U) << "eight of the panel, three of the workstation";
-    for (const auto& [key, texts] : users)
+    for (const auto& [key, texts] : users) {
         EXPECT_THAT(texts, SizeIs(1)) << key;
+    }
 }
 
 TEST_F(MainWindowTest, PictureHasEveryPartOfThePanel) {

@@ -101,8 +101,9 @@ TEST_F(ProgramTest, TextShowsEveryPartOfThePanel) {
           "\nSRAM Size (B) ", "\nFree SRAM (B) ", "\nBoot SW ", "\nFPGA ", "\nApplication SW ",
           "\nSelf-test Status ", "\nIP address ", "\nFlash Box Files\n", "\nFile name ",
           "Generation\n", "\nversion.fia ", "\nProgress Info\n",
-          "\nProgramming Device is in Normal mode\n"})
+          "\nProgramming Device is in Normal mode\n"}) {
         EXPECT_THAT(outcome.output, HasSubstr(part));
+    }
 }
 
 TEST_F(ProgramTest, TextOfEverySampleIsPrinted) {

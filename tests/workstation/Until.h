@@ -11,8 +11,9 @@ bool Until(Condition condition) {
     QElapsedTimer elapsed;
     elapsed.start();
     while (!condition()) {
-        if (elapsed.elapsed() > kPatienceMs)
+        if (elapsed.elapsed() > kPatienceMs) {
             return false;
+        }
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     }
     return true;

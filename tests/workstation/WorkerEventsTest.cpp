@@ -20,8 +20,9 @@ class WorkerEventsTest : public WorkerTest {};
 
 TEST_F(WorkerEventsTest, EventsOfAShortCallArriveInOrderBeforeItReturns) {
     EXPECT_EQ(Call([&] {
-                  for (const char* name : {"first", "second", "third"})
+                  for (const char* name : {"first", "second", "third"}) {
                       Raise(Note(name));
+                  }
                   return kSuccess;
               }),
               kSuccess);
@@ -63,15 +64,17 @@ TEST_F(WorkerEventsTest, HundredEventsOfALongCallAreAllHeard) {
     QTimer::singleShot(50, [&] { release.set_value(); });
     auto released = release.get_future();
     EXPECT_EQ(Call([&] {
-                  for (int i = 0; i < 100; ++i)
+                  for (int i = 0; i < 100; ++i) {
                       Raise(Note(std::to_string(i)));
+                  }
                   EXPECT_EQ(released.wait_for(10s), std::future_status::ready);
                   return kSuccess;
               }),
               kSuccess);
     ASSERT_THAT(m_heard, SizeIs(100));
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         EXPECT_EQ(m_heard[static_cast<std::size_t>(i)], std::to_string(i));
+    }
 }
 
 TEST_F(WorkerEventsTest, EventRaisedOnOurThreadIsDeliveredAtOnce) {

@@ -23,12 +23,13 @@ class WorkerInterceptorTest : public WorkerTest {};
 
 TEST_F(WorkerInterceptorTest, CallRunsOnTheSameOtherThreadEachTime) {
     std::vector<std::thread::id> threads;
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(Call([&] {
                       threads.push_back(std::this_thread::get_id());
                       return kSuccess;
                   }),
                   kSuccess);
+    }
     ASSERT_THAT(threads, SizeIs(2));
     EXPECT_NE(threads[0], m_ourThread);
     EXPECT_EQ(threads[0], threads[1]);
