@@ -35,7 +35,7 @@ struct HeadlessBench {
     CBenchHost host;
 };
 
-void BareDeviceCalls(benchmark::State& state, bench::Device kind) {
+void DeviceCalls(benchmark::State& state, bench::Device kind, bench::Caller caller) {
     HeadlessBench bench(state.range(0), kind);
     std::shared_ptr<contract::ISubsystem> subsystem;
     std::shared_ptr<contract::IProgrammingDeviceSubsystem> device;
@@ -48,7 +48,7 @@ void BareDeviceCalls(benchmark::State& state, bench::Device kind) {
         return;
     }
     for (auto _ : state) {
-        benchmark::DoNotOptimize(bench::ReadAllFiles(*device));
+        benchmark::DoNotOptimize(bench::ReadFiles(*device, caller));
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
@@ -77,10 +77,13 @@ void MillionDeviceMessages(benchmark::State& state) {
 
 }
 
-BENCHMARK_CAPTURE(BareDeviceCalls, InMemory, bench::Device::InMemory)
+BENCHMARK_CAPTURE(DeviceCalls, InMemoryBare, bench::Device::InMemory, bench::Caller::Bare)
     ->Arg(100000)
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(BareDeviceCalls, Intercepted, bench::Device::Intercepted)
+BENCHMARK_CAPTURE(DeviceCalls, InMemoryClient, bench::Device::InMemory, bench::Caller::Client)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(DeviceCalls, InterceptedBare, bench::Device::Intercepted, bench::Caller::Bare)
     ->Arg(100000)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(RefreshThroughHeadlessView, Intercepted, bench::Device::Intercepted)
