@@ -21,6 +21,18 @@ endif()
 # Full debug information of the toolkit's headers doubles the build for nothing that a test needs.
 string(REPLACE "-g" "-g1" CMAKE_CXX_FLAGS_DEBUG "${CMAKE_CXX_FLAGS_DEBUG}")
 
+# Another clone, or another branch, compiles most files anew for nothing.
+find_program(KRX8_CCACHE ccache)
+if(KRX8_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
+      CCACHE_SLOPPINESS=pch_defines,time_macros ${KRX8_CCACHE})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Without it nothing that uses a precompiled header is kept.
+    add_compile_options(-fpch-preprocess)
+  endif()
+endif()
+
 if(KRX8_SANITIZE)
   add_compile_options(-fsanitize=${KRX8_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${KRX8_SANITIZE})

@@ -5,7 +5,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 program=$(basename "$0")
 
 # Debian 12 package names.
-build_packages=(g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev nlohmann-json3-dev libinih-dev
+                fonts-dejavu-core)
 test_packages=(libgtest-dev libgmock-dev libqt6test6 xvfb xdotool)
 
 say() { echo "$program: $*" >&2; }
