@@ -1,18 +1,22 @@
 #include "simulator/Device.h"
 
+#include "simulator/device/SelfTestRun.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace simulator {
 
-std::shared_ptr<CDevice> CDevice::Create(DeviceDescription description) {
-    return std::make_shared<CDevice>(std::move(description));
+std::shared_ptr<CDevice> CDevice::Create(DeviceDescription description,
+                                         std::unique_ptr<IDeviceStore> store) {
+    return std::make_shared<CDevice>(std::move(description), std::move(store));
 }
 
-CDevice::CDevice(DeviceDescription description)
+CDevice::CDevice(DeviceDescription description, std::unique_ptr<IDeviceStore> store)
     : m_description(std::move(description)),
       m_mode(m_description.mode),
-      m_files(std::make_shared<const StoredFiles>(std::move(m_description.files))) {
+      m_files(std::make_shared<const StoredFiles>(std::move(m_description.files))),
+      m_store(std::move(store)) {
     m_description.files.clear();
 }
 
@@ -41,18 +45,67 @@ bool CDevice::IsNetworked() const {
     return type == kKrx10 || type == kKrx20 || type == kKrx21;
 }
 
+DeviceDescription CDevice::State() const {
+    auto state = m_description;
+    state.files = *m_files;
+    return state;
+}
+
+Outcome CDevice::Change(DeviceDescription next, const NewContent* content) {
+    if (!content && next == State()) {
+        return std::nullopt;
+    }
+    if (m_store) {
+        if (auto failure = m_store->Save(next, content)) {
+            return failure;
+        }
+    }
+    m_files = std::make_shared<const StoredFiles>(std::move(next.files));
+    next.files.clear();
+    m_description = std::move(next);
+    return std::nullopt;
+}
+
 contract::Status CDevice::RequestMode(contract::ModeRequest request) {
     switch (request) {
-    case contract::ModeRequest::Normal:
-        EnterMode(kNormalMode);
-        return contract::kSuccess;
     case contract::ModeRequest::Report:
-    case contract::ModeRequest::Reset:
         RaiseMode(m_mode);
         return contract::kSuccess;
+    case contract::ModeRequest::Normal:
+        return Report(SwitchToNormal());
+    case contract::ModeRequest::Reset:
+        return Report(Restart());
     }
     return Fail(kInvalidArgument,
                 "Unknown mode request " + std::to_string(static_cast<std::int32_t>(request)));
+}
+
+Outcome CDevice::SwitchToNormal() {
+    if (m_mode != kNormalMode && !HasPassed(m_description, contract::SelfTest::ApplicationSw)) {
+        return Failure{kNotReady,
+                       "The device stays out of Normal mode: its application software failed the "
+                       "self-test"};
+    }
+    auto next = State();
+    next.mode = kNormalMode;
+    if (auto failure = Change(std::move(next))) {
+        return failure;
+    }
+    EnterMode(kNormalMode);
+    return std::nullopt;
+}
+
+Outcome CDevice::Restart() {
+    EnterMode(kMaintenanceMode);
+    auto next = State();
+    RunStartUpTests(next);
+    // Maintenance mode is the device's way of waiting for its restart.
+    if (next.mode == kMaintenanceMode) {
+        next.mode = kNormalMode;
+    }
+    auto failure = Change(std::move(next));
+    EnterMode(m_description.mode);
+    return failure;
 }
 
 void CDevice::EnterMode(std::int32_t mode) {

@@ -27,12 +27,27 @@ inline constexpr std::int32_t kNormalMode = 1;
 inline constexpr std::int32_t kServiceMode = 2;
 inline constexpr std::int32_t kMaintenanceMode = 3;
 
+inline constexpr std::int32_t kSecondaryBoot = 19;
+inline constexpr std::int32_t kAlgorithm = 21;
+inline constexpr std::int32_t kMcuSoftware = 22;
+/// What the device makes of a file that is none of these. Not 0, which stands for "any type".
+inline constexpr std::int32_t kUnknownFileType = 255;
+
 inline constexpr std::int32_t kInRam = 1;
 inline constexpr std::int32_t kInFlash = 2;
 inline constexpr std::int32_t kOnPcCard = 3;
 
-/// The result of a self-test that a device does not have.
+inline constexpr std::uint32_t kGenerationQx3 = 5;
+
+inline constexpr std::int32_t kTestOk = 0;
+inline constexpr std::int32_t kTestIgnored = 2;
+/// The result of a self-test that a device does not have, or has not run since a change.
 inline constexpr std::int32_t kTestNotRun = 787;
+inline constexpr std::int32_t kTestFileMissing = 788;
+inline constexpr std::int32_t kTestMediaNotFound = 812;
+
+/// The file whose version is that of the software package on the device.
+inline constexpr const char* kVersionFileName = "version.fia";
 
 /// One file on the device.
 struct StoredFile {
@@ -46,6 +61,8 @@ struct StoredFile {
     /// Name of the file in the folder `files` that holds its bytes; empty for a device that lives
     /// in memory only.
     std::string content;
+
+    bool operator==(const StoredFile&) const = default;
 };
 
 struct SoftwareVersions {
@@ -59,6 +76,8 @@ struct SoftwareVersions {
     std::string usbHostControllerDriver;
     std::string bootLoader;
     std::string serviceFpga;
+
+    bool operator==(const SoftwareVersions&) const = default;
 };
 
 struct NetworkSettings {
@@ -71,10 +90,14 @@ struct NetworkSettings {
     bool useDhcp = false;
     std::string description;
     std::string macAddress;
+
+    bool operator==(const NetworkSettings&) const = default;
 };
 
 struct PcCard {
     std::uint32_t totalBytes = 0;
+
+    bool operator==(const PcCard&) const = default;
 };
 
 /// Makes one call of an operation go wrong. Operations are named as in interception/Operations.h.
@@ -86,12 +109,16 @@ struct Fault {
     bool succeedsWithNull = false;
     contract::Status status = contract::kUnspecifiedFailure;
     std::string description;
+
+    bool operator==(const Fault&) const = default;
 };
 
 /// How long the device's operations take, in milliseconds, on top of the computing.
 struct Latency {
     std::uint32_t defaultMs = 0;
     std::map<std::string, std::uint32_t> operationsMs;
+
+    bool operator==(const Latency&) const = default;
 };
 
 /// Takes the device out of its host inside one call.
@@ -100,10 +127,13 @@ struct DeviceLoss {
     std::uint32_t call = 1;
     /// The device is back after so many further calls of any operation; none: only on request.
     std::optional<std::uint32_t> returnsAfterCalls;
+
+    bool operator==(const DeviceLoss&) const = default;
 };
 
 struct DeviceDescription {
     std::int32_t type = kKrx20;
+    /// The mode in which the device starts.
     std::int32_t mode = kNormalMode;
     std::int32_t serialNumber = 0;
     std::string hardwareVersion;
@@ -119,6 +149,8 @@ struct DeviceDescription {
     std::vector<Fault> faults;
     Latency latency;
     std::optional<DeviceLoss> loss;
+
+    bool operator==(const DeviceDescription&) const = default;
 };
 
 }

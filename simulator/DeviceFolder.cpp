@@ -1,7 +1,9 @@
 #include "simulator/DeviceFolder.h"
 
 #include "simulator/Device.h"
+#include "simulator/folder/DescriptionNames.h"
 #include "simulator/folder/DescriptionReader.h"
+#include "simulator/folder/FolderStore.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -15,8 +17,6 @@ namespace simulator {
 namespace {
 
 using Path = std::filesystem::path;
-
-constexpr const char* kDescriptionName = "device.json";
 
 std::string LastSystemError() { return std::error_code(errno, std::generic_category()).message(); }
 
@@ -70,16 +70,21 @@ DescriptionDocument Parse(const Path& path, const std::string& text) {
     return {path, nlohmann::json::parse(text, nullptr, kThrows), std::move(lines)};
 }
 
-DeviceDescription Read(const Path& folder) {
+/// A description and the text it was read from.
+struct FolderContent {
+    DeviceDescription description;
+    std::string text;
+};
+
+FolderContent Read(const Path& folder) {
     ExpectDeviceFolder(folder);
     const auto path = folder / kDescriptionName;
-    const auto document = Parse(path, ReadText(path));
-    return ReadDescription(CDescriptionNode(document), folder);
+    auto text = ReadText(path);
+    const auto document = Parse(path, text);
+    return {ReadDescription(CDescriptionNode(document), folder), std::move(text)};
 }
 
-}
-
-std::variant<DeviceDescription, DescriptionError> ReadDeviceFolder(const Path& folder) {
+std::variant<FolderContent, DescriptionError> TryToRead(const Path& folder) {
     try {
         return Read(folder);
     } catch (const DescriptionError& error) {
@@ -87,12 +92,24 @@ std::variant<DeviceDescription, DescriptionError> ReadDeviceFolder(const Path& f
     }
 }
 
-std::variant<std::shared_ptr<CDevice>, DescriptionError> OpenDevice(const Path& folder) {
-    auto result = ReadDeviceFolder(folder);
+}
+
+std::variant<DeviceDescription, DescriptionError> ReadDeviceFolder(const Path& folder) {
+    auto result = TryToRead(folder);
     if (const auto* error = std::get_if<DescriptionError>(&result)) {
         return *error;
     }
-    return CDevice::Create(std::get<DeviceDescription>(std::move(result)));
+    return std::get<FolderContent>(std::move(result)).description;
+}
+
+std::variant<std::shared_ptr<CDevice>, DescriptionError> OpenDevice(const Path& folder) {
+    auto result = TryToRead(folder);
+    if (const auto* error = std::get_if<DescriptionError>(&result)) {
+        return *error;
+    }
+    auto content = std::get<FolderContent>(std::move(result));
+    return CDevice::Create(std::move(content.description),
+                           std::make_unique<CFolderStore>(folder, std::move(content.text)));
 }
 
 std::vector<Path> ListDevices(const Path& root) {

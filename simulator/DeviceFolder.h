@@ -19,8 +19,10 @@ class CDevice;
 std::variant<DeviceDescription, DescriptionError>
 ReadDeviceFolder(const std::filesystem::path& folder);
 
-/// The device in `folder`, or why there is none. Writes nothing: what happens to
-/// the device is forgotten with it.
+/// The device in `folder`, or why there is none. Opening writes nothing; what happens to the device
+/// afterwards is kept in the folder, which survives the end of the process at any instant. A folder
+/// is for one device at a time: a second one that is opened on it sees no change of the first and
+/// can make none after it.
 std::variant<std::shared_ptr<CDevice>, DescriptionError>
 OpenDevice(const std::filesystem::path& folder);
 

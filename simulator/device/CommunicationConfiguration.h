@@ -2,17 +2,24 @@
 
 #include "contract/device/Krx10CommunicationConfiguration.h"
 #include "simulator/Device.h"
+#include "simulator/device/DeviceSlot.h"
+
+#include <memory>
+#include <utility>
 
 namespace simulator {
 
-/// A working copy of a device's network settings.
+/// A working copy of a device's network settings. It can be applied while that device is in the
+/// slot; kDeviceNotConnected afterwards.
 class CCommunicationConfiguration final
     : public contract::IKrx10CommunicationConfiguration,
       public contract::IKrx10CommunicationConfiguration2,
       public std::enable_shared_from_this<CCommunicationConfiguration> {
 public:
-    explicit CCommunicationConfiguration(const CDevice& device)
-        : m_settings(device.Description().network) {}
+    CCommunicationConfiguration(std::shared_ptr<const CDeviceSlot> slot, CDevice& device)
+        : m_slot(std::move(slot)),
+          m_device(device.weak_from_this()),
+          m_settings(device.Description().network) {}
 
     contract::Status QueryCommunicationConfiguration2(
         std::shared_ptr<contract::IKrx10CommunicationConfiguration2>& configuration) override {
@@ -55,9 +62,11 @@ public:
     contract::Status SetDescription(const std::string& description) override {
         return Give(description, m_settings.description);
     }
-    contract::Status ApplyConfiguration() override { return FailAsNotAvailable(); }
+    contract::Status ApplyConfiguration() override;
 
 private:
+    const std::shared_ptr<const CDeviceSlot> m_slot;
+    const std::weak_ptr<CDevice> m_device;
     NetworkSettings m_settings;
 };
 

@@ -34,11 +34,11 @@ public:
         });
     }
 
-private:
     static contract::Status FailAsNotConnected() {
         return Fail(kDeviceNotConnected, "No programming device is connected");
     }
 
+private:
     std::shared_ptr<CDevice> m_device;
     const std::shared_ptr<CDeviceEvents> m_events = std::make_shared<CDeviceEvents>();
 };

@@ -1,9 +1,13 @@
 #include "simulator/device/ProgrammingDeviceControl.h"
 
+#include "simulator/device/CodeOperations.h"
 #include "simulator/device/ExternalStorages.h"
 #include "simulator/device/FileListing.h"
+#include "simulator/device/FileOperations.h"
 #include "simulator/device/FreeResources.h"
 #include "simulator/device/HardwareInfo.h"
+#include "simulator/device/IniUpdate.h"
+#include "simulator/device/MediaOperations.h"
 #include "simulator/device/SelfTestResults.h"
 #include "simulator/device/SoftwareInfo.h"
 
@@ -48,34 +52,46 @@ Status CProgrammingDeviceControl::RequestMode(contract::ModeRequest request) {
     return m_slot->WithDevice([&](CDevice& device) { return device.RequestMode(request); });
 }
 
-Status CProgrammingDeviceControl::UploadPhoneFile(const std::string&, std::int32_t, std::int32_t,
-                                                  std::int32_t&) {
-    return FailAsNotAvailableOnDevice();
+Status CProgrammingDeviceControl::UploadPhoneFile(const std::string& path, std::int32_t destination,
+                                                  std::int32_t method, std::int32_t& result) {
+    return Run([&](CDevice& device) {
+        return simulator::UploadPhoneFile(device, path, destination, method, result);
+    });
 }
 
-Status CProgrammingDeviceControl::MoveFile(std::int32_t, std::int32_t, std::int32_t, std::int32_t) {
-    return FailAsNotAvailableOnDevice();
+Status CProgrammingDeviceControl::MoveFile(std::int32_t type, std::int32_t id,
+                                           std::int32_t destination, std::int32_t reserved) {
+    return Run([&](CDevice& device) {
+        return simulator::MoveFile(device, type, id, destination, reserved);
+    });
 }
 
-Status CProgrammingDeviceControl::DeleteFile(std::int32_t, std::int32_t) {
-    return FailAsNotAvailableOnDevice();
+Status CProgrammingDeviceControl::DeleteFile(std::int32_t type, std::int32_t id) {
+    return Run([&](CDevice& device) { return simulator::DeleteFile(device, type, id); });
 }
 
-Status CProgrammingDeviceControl::UploadCode(const std::string&, std::int32_t, std::int32_t,
-                                             std::int32_t) {
-    return FailAsNotAvailableOnDevice();
+Status CProgrammingDeviceControl::UploadCode(const std::string& path, std::int32_t codeKind,
+                                             std::int32_t reserved, std::int32_t mode) {
+    return Run([&](CDevice& device) {
+        return simulator::UploadCode(device, path, codeKind, reserved, mode);
+    });
 }
 
-Status CProgrammingDeviceControl::UpdateFromIniFile(const std::string&) {
-    return FailAsNotAvailableOnDevice();
+Status CProgrammingDeviceControl::UpdateFromIniFile(const std::string& path) {
+    return m_slot->WithDevice([&](CDevice& device) {
+        auto isPartial = false;
+        const auto status = Report(simulator::UpdateFromIniFile(device, path, isPartial));
+        return status.IsSuccess() && isPartial ? contract::kPartialUpdate : status;
+    });
 }
 
-Status CProgrammingDeviceControl::RerunMediaTests(std::uint32_t) {
-    return FailAsNotAvailableOnDevice();
+Status CProgrammingDeviceControl::RerunMediaTests(std::uint32_t mask) {
+    return Run([&](CDevice& device) { return simulator::RerunMediaTests(device, mask); });
 }
 
-Status CProgrammingDeviceControl::FailAsNotAvailableOnDevice() {
-    return m_slot->WithDevice([](CDevice&) { return FailAsNotAvailable(); });
+template <class Operation>
+Status CProgrammingDeviceControl::Run(const Operation& operation) {
+    return m_slot->WithDevice([&](CDevice& device) { return Report(operation(device)); });
 }
 
 }

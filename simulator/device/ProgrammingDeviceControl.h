@@ -8,8 +8,8 @@
 namespace simulator {
 
 /// The service's control, for whichever device is in the slot. Every operation but QueryBaseObject
-/// fails with kDeviceNotConnected while the slot is empty. The operations that write to a device
-/// fail with kNotImplemented.
+/// fails with kDeviceNotConnected while the slot is empty. What the operations do to a device is
+/// said in docs/device-folder.md.
 class CProgrammingDeviceControl final : public contract::IProgrammingDeviceControl {
 public:
     explicit CProgrammingDeviceControl(std::shared_ptr<CDeviceSlot> slot)
@@ -40,7 +40,8 @@ public:
     contract::Status RerunMediaTests(std::uint32_t mask) override;
 
 private:
-    contract::Status FailAsNotAvailableOnDevice();
+    template <class Operation>
+    contract::Status Run(const Operation& operation);
 
     const std::shared_ptr<CDeviceSlot> m_slot;
 };

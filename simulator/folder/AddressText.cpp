@@ -47,4 +47,12 @@ std::optional<contract::AddressValue> ParseAddress(std::string_view text) {
     return std::bit_cast<contract::AddressValue>(bytes);
 }
 
+std::string AddressText(contract::AddressValue address) {
+    std::string text;
+    for (const auto byte : std::bit_cast<std::array<std::uint8_t, 4>>(address)) {
+        text += (text.empty() ? "" : ".") + std::to_string(byte);
+    }
+    return text;
+}
+
 }

@@ -2,6 +2,7 @@
 
 #include "simulator/DescriptionError.h"
 #include "simulator/folder/JsonLines.h"
+#include "simulator/folder/NamedValue.h"
 
 #include <nlohmann/json.hpp>
 
@@ -17,12 +18,6 @@
 #include <utility>
 
 namespace simulator {
-
-/// What a name in a description stands for.
-struct NamedValue {
-    std::string_view name;
-    std::int64_t value;
-};
 
 /// A JSON document and the file it came from.
 struct DescriptionDocument {

@@ -1,6 +1,7 @@
 #include "simulator/folder/DescriptionReader.h"
 
 #include "simulator/folder/AddressText.h"
+#include "simulator/folder/DescriptionNames.h"
 #include "simulator/folder/KnobReader.h"
 #include "simulator/folder/StoredFileReader.h"
 
@@ -18,77 +19,13 @@ namespace {
 
 using contract::SelfTest;
 
-constexpr NamedValue kModels[] = {{"KRX-8", kKrx8},
-                                  {"KRX-8C", kKrx8c},
-                                  {"KRX-10", kKrx10},
-                                  {"KRX-20", kKrx20},
-                                  {"KRX-21", kKrx21}};
-
-constexpr NamedValue kModes[] = {
-    {"Normal", kNormalMode}, {"Service", kServiceMode}, {"Maintenance", kMaintenanceMode}};
-
-constexpr std::pair<std::string_view, SelfTest> kSelfTests[] = {
-    {"fpgaCode", SelfTest::FpgaCode},
-    {"fpgaLoad", SelfTest::FpgaLoad},
-    {"applicationSw", SelfTest::ApplicationSw},
-    {"bootCode", SelfTest::BootCode},
-    {"ram", SelfTest::Ram},
-    {"externalRam", SelfTest::ExternalRam},
-    {"externalFlash", SelfTest::ExternalFlash},
-    {"pagedFlash", SelfTest::PagedFlash},
-    {"eeprom", SelfTest::Eeprom},
-    {"secondaryAndAlgorithmFiles", SelfTest::SecondaryAndAlgorithmFiles},
-    {"mcusw", SelfTest::Mcusw},
-    {"flash", SelfTest::Flash},
-    {"pagedRam", SelfTest::PagedRam},
-    {"mmcrDriver", SelfTest::MmcrDriver},
-    {"usbDeviceFunction", SelfTest::UsbDeviceFunction},
-    {"usbHostController", SelfTest::UsbHostController},
-    {"ztwcdcDriver", SelfTest::ZtwcdcDriver},
-    {"ethernet", SelfTest::Ethernet},
-    {"usb", SelfTest::Usb},
-    {"rs232", SelfTest::Rs232},
-    {"fpga", SelfTest::Fpga},
-};
-
-constexpr NamedValue kResults[] = {
-    {"ok", 0},
-    {"failed", 1},
-    {"ignored", 2},
-    {"notRun", kTestNotRun},
-    {"fileMissing", 788},
-    {"fileInvalid", 789},
-    {"certificateMissing", 790},
-    {"certificateInvalid", 791},
-    {"authenticationFailed", 792},
-    {"flashNotFound", 793},
-    {"flashNotUsable", 794},
-    {"driverFailed", 795},
-    {"publicKeyFailed", 809},
-    {"mediaNotFound", 812},
-    {"mediaNotSupported", 813},
-    {"mediaNotUsable", 814},
-};
-
-constexpr std::pair<const char*, std::string SoftwareVersions::*> kVersions[] = {
-    {"boot", &SoftwareVersions::boot},
-    {"application", &SoftwareVersions::application},
-    {"fpgaCode", &SoftwareVersions::fpgaCode},
-    {"security", &SoftwareVersions::security},
-    {"fpgaDriver", &SoftwareVersions::fpgaDriver},
-    {"mmcrDriver", &SoftwareVersions::mmcrDriver},
-    {"usbDeviceFunctionDriver", &SoftwareVersions::usbDeviceFunctionDriver},
-    {"usbHostControllerDriver", &SoftwareVersions::usbHostControllerDriver},
-    {"bootLoader", &SoftwareVersions::bootLoader},
-    {"serviceFpga", &SoftwareVersions::serviceFpga},
-};
-
 SoftwareVersions ReadSoftware(const CDescriptionNode& node) {
     SoftwareVersions versions;
     node.ForEachMember([&](const std::string& key, const CDescriptionNode& member) {
-        const auto* version = std::find_if(std::begin(kVersions), std::end(kVersions),
-                                           [&](const auto& entry) { return entry.first == key; });
-        if (version == std::end(kVersions)) {
+        const auto* version =
+            std::find_if(std::begin(kSoftwareVersions), std::end(kSoftwareVersions),
+                         [&](const auto& entry) { return entry.first == key; });
+        if (version == std::end(kSoftwareVersions)) {
             member.Refuse("is not a known key");
         }
         versions.*version->second = member.Text();
@@ -104,7 +41,7 @@ std::map<SelfTest, std::int32_t> ReadSelfTests(const CDescriptionNode& node) {
         if (test == std::end(kSelfTests)) {
             member.Refuse("is not a known self-test");
         }
-        results[test->second] = member.NameOrNumber<std::int32_t>(kResults);
+        results[test->second] = member.NameOrNumber<std::int32_t>(kTestResults);
     });
     return results;
 }

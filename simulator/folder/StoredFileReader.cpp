@@ -1,5 +1,6 @@
 #include "simulator/folder/StoredFileReader.h"
 
+#include "simulator/folder/DescriptionNames.h"
 #include "simulator/folder/MessageText.h"
 
 #include <cerrno>
@@ -18,10 +19,6 @@ namespace {
 
 using Path = std::filesystem::path;
 
-constexpr NamedValue kTypes[] = {{"secondaryBoot", 19}, {"algorithm", 21}, {"mcuSoftware", 22}};
-constexpr NamedValue kLocations[] = {{"RAM", kInRam}, {"Flash", kInFlash}, {"PCCard", kOnPcCard}};
-constexpr NamedValue kGenerations[] = {{"none", 0}, {"QX1", 3}, {"QX2", 4}, {"QX3", 5}};
-
 /// Remembers who was the first with each key.
 template <class Key>
 class CFirstUse {
@@ -35,11 +32,6 @@ public:
 private:
     std::map<Key, std::string> m_names;
 };
-
-bool IsPlainFileName(const std::string& name) {
-    return !name.empty() && name != "." && name != ".." &&
-           name.find_first_of(std::string_view("/\\\0", 3)) == std::string::npos;
-}
 
 std::int32_t ReadSize(const Path& path, const auto& refuse) {
     std::error_code error;
@@ -84,7 +76,7 @@ StoredFile ReadStoredFile(const CDescriptionNode& node) {
     node.ExpectKeys({"name", "type", "id", "version", "location", "generation", "content"});
     StoredFile file;
     file.name = node.Member("name").Text();
-    file.type = node.Member("type").NameOrNumber<std::int32_t>(kTypes);
+    file.type = node.Member("type").NameOrNumber<std::int32_t>(kFileTypes);
     file.id = node.Member("id").WholeNumberOf<std::int32_t>();
     file.version = node.OptionalText("version");
     file.location = node.Member("location").NameOrNumber<std::int32_t>(kLocations);
@@ -110,10 +102,11 @@ std::vector<StoredFile> ReadStoredFiles(const CDescriptionNode& list, const Path
         if (const auto* first = contents.Claim(file.content, node.QuotedName())) {
             node.Refuse("has the content of " + *first);
         }
-        file.sizeBytes = ReadSize(folder / "files" / file.content, [&](const std::string& reason) {
-            node.Refuse("is stored in " + QuoteForMessage("files/" + file.content) + ", which " +
-                        reason);
-        });
+        file.sizeBytes =
+            ReadSize(folder / kContentFolderName / file.content, [&](const std::string& reason) {
+                node.Refuse("is stored in " + QuoteForMessage("files/" + file.content) +
+                            ", which " + reason);
+            });
         files.push_back(std::move(file));
     });
     return files;

@@ -250,23 +250,5 @@ TEST_F(DeviceServiceTest, RequestModeAnswersBeforeItReturns) {
     EXPECT_EQ(m_log->events, Events{"mode 2"});
 }
 
-TEST_F(DeviceServiceTest, WritingOperationsFailAsNotAvailable) {
-    InsertDevice({});
-    const auto expectNotAvailable = [](contract::Status status) {
-        ExpectFailure(status, 0x80004001, "Not available in this version of the simulated device");
-    };
-    std::int32_t result = 0;
-    expectNotAvailable(Control()->UploadPhoneFile("/a", 0, 3, result));
-    expectNotAvailable(Control()->MoveFile(22, 1, 2, 0));
-    expectNotAvailable(Control()->DeleteFile(0, 0));
-    expectNotAvailable(Control()->UploadCode("/a", 0, -1, 0));
-    expectNotAvailable(Control()->UpdateFromIniFile("/a.ini"));
-    expectNotAvailable(Control()->RerunMediaTests(contract::kPcCardTest));
-    expectNotAvailable(Configuration()->ApplyConfiguration());
-    const auto control =
-        ObjectOf(*Subsystem(), &contract::IProgrammingDeviceSubsystem::GetKrx10Control);
-    expectNotAvailable(control->PrepareMedia(contract::Medium::PcCard));
-}
-
 }
 }

@@ -88,10 +88,55 @@ TEST_F(DeviceTest, RequestNormalSwitchesThenRaises) {
     EXPECT_EQ(modeInEvent, 1);
 }
 
-TEST_F(DeviceTest, RequestResetRaisesTheSameMode) {
+TEST_F(DeviceTest, RequestNormalWithFailedApplicationIsRefused) {
+    DeviceDescription description;
+    description.mode = kServiceMode;
+    description.selfTests[contract::SelfTest::ApplicationSw] = 1;
+    MakeDevice(description);
+    ExpectFailure(m_device->RequestMode(ModeRequest::Normal), 0x80070015,
+                  "The device stays out of Normal mode: its application software failed the "
+                  "self-test");
+    EXPECT_EQ(m_log->events, Events{});
+    EXPECT_EQ(m_device->Mode(), 2);
+}
+
+TEST_F(DeviceTest, RequestNormalInNormalModeAsksNoTest) {
+    DeviceDescription description;
+    description.selfTests[contract::SelfTest::ApplicationSw] = 1;
+    MakeDevice(description);
+    EXPECT_EQ(m_device->RequestMode(ModeRequest::Normal), contract::kSuccess);
+    EXPECT_EQ(m_log->events, Events{"mode 1"});
+}
+
+TEST_F(DeviceTest, ResetPassesThroughMaintenanceToTheStartingMode) {
     MakeDeviceInMode(2);
     EXPECT_EQ(m_device->RequestMode(ModeRequest::Reset), contract::kSuccess);
-    EXPECT_EQ(m_log->events, Events{"mode 2"});
+    EXPECT_EQ(m_log->events, (Events{"mode 3", "mode 2"}));
+    EXPECT_EQ(m_device->Mode(), 2);
+}
+
+TEST_F(DeviceTest, ResetEndsMaintenance) {
+    MakeDeviceInMode(3);
+    EXPECT_EQ(m_device->RequestMode(ModeRequest::Reset), contract::kSuccess);
+    EXPECT_EQ(m_log->events, (Events{"mode 3", "mode 1"}));
+    EXPECT_EQ(m_device->Description().mode, 1);
+}
+
+TEST_F(DeviceTest, ResetForgetsAModeThatWasOnlyEntered) {
+    MakeDeviceInMode(1);
+    m_device->EnterMode(2);
+    EXPECT_EQ(m_device->RequestMode(ModeRequest::Reset), contract::kSuccess);
+    EXPECT_EQ(m_log->events, (Events{"mode 2", "mode 3", "mode 1"}));
+}
+
+TEST_F(DeviceTest, ChangeLeavesAListThatWasHandedOut) {
+    MakeDeviceWithFiles({FileOf(300, kInRam)});
+    const auto before = m_device->Files();
+    auto next = m_device->State();
+    next.files.clear();
+    EXPECT_FALSE(m_device->Change(next));
+    EXPECT_EQ(before->size(), 1u);
+    EXPECT_TRUE(m_device->Files()->empty());
 }
 
 TEST_F(DeviceTest, RequestUnknownModeFailsSilently) {

@@ -1,0 +1,173 @@
+#include "simulator/device/CodeFile.h"
+
+#include "simulator/device/FilePlan.h"
+#include "simulator/device/PhoneFile.h"
+#include "simulator/device/SelfTestRun.h"
+#include "simulator/device/VersionText.h"
+#include "simulator/folder/DescriptionNames.h"
+#include "simulator/folder/MessageText.h"
+
+#include <iterator>
+#include <map>
+#include <string_view>
+
+namespace simulator {
+
+namespace {
+
+using Header = std::map<std::string, std::string, std::less<>>;
+
+constexpr const char* kVersionWithoutAny = "1.0";
+
+std::string_view Trimmed(std::string_view text) {
+    const auto begin = text.find_first_not_of(" \t\r");
+    if (begin == text.npos) {
+        return {};
+    }
+    return text.substr(begin, text.find_last_not_of(" \t\r") - begin + 1);
+}
+
+/// The "key: value" lines at the head of a file, up to the first line that is none.
+Header ReadHeader(std::string_view head) {
+    Header header;
+    while (true) {
+        const auto end = head.find('\n');
+        const auto line = head.substr(0, end);
+        const auto colon = line.find(':');
+        if (end == head.npos || colon == line.npos) {
+            return header;
+        }
+        header.emplace(Trimmed(line.substr(0, colon)), Trimmed(line.substr(colon + 1)));
+        head.remove_prefix(end + 1);
+    }
+}
+
+std::string TextOf(const Header& header, std::string_view key) {
+    const auto found = header.find(key);
+    return found == header.end() ? std::string() : found->second;
+}
+
+std::string_view ModelName(std::int32_t type) {
+    for (const auto& [name, value] : kModels) {
+        if (value == type) {
+            return name;
+        }
+    }
+    return "this device";
+}
+
+bool IsListed(std::string_view list, std::string_view name) {
+    while (true) {
+        const auto comma = list.find(',');
+        if (Trimmed(list.substr(0, comma)) == name) {
+            return true;
+        }
+        if (comma == list.npos) {
+            return false;
+        }
+        list.remove_prefix(comma + 1);
+    }
+}
+
+/// The extension of images for the device; empty for one that takes none.
+std::string_view ImageExtension(std::int32_t type) {
+    if (type == kKrx10) {
+        return ".krx10";
+    }
+    return type == kKrx20 || type == kKrx21 ? ".krx20" : "";
+}
+
+Failure FailAsWrong(const CSourceFile& source, const std::string& what) {
+    return {kInvalidData, source.QuotedName() + " is " + what};
+}
+
+Outcome ExpectKind(CodeKind kind, std::int32_t deviceType) {
+    const bool takesCode = IsKrx8Family(deviceType);
+    const bool takesImages = !ImageExtension(deviceType).empty();
+    if ((kind == CodeKind::Image && takesImages) || (kind != CodeKind::Image && takesCode)) {
+        return std::nullopt;
+    }
+    return Failure{kInvalidArgument,
+                   std::string(ModelName(deviceType)) + " takes no " +
+                       (kind == CodeKind::Image ? "software images" : "single code files")};
+}
+
+Outcome ExpectModel(const CSourceFile& source, const Header& header, CodeKind kind,
+                    std::int32_t deviceType) {
+    if (const auto models = TextOf(header, "model"); !models.empty()) {
+        if (IsListed(models, ModelName(deviceType))) {
+            return std::nullopt;
+        }
+        return FailAsWrong(source, "for " + QuoteForMessage(models) + ", not for " +
+                                       std::string(ModelName(deviceType)));
+    }
+    const auto extension = std::filesystem::path(source.Name()).extension().string();
+    if (kind != CodeKind::Image || IsSameName(extension, ImageExtension(deviceType))) {
+        return std::nullopt;
+    }
+    return FailAsWrong(source, "no software image for " + std::string(ModelName(deviceType)));
+}
+
+Outcome ExpectContent(const CSourceFile& source, const Header& header, CodeKind kind) {
+    constexpr NamedValue kContents[] = {{"image", static_cast<int>(CodeKind::Image)},
+                                        {"fpga", static_cast<int>(CodeKind::Fpga)},
+                                        {"application", static_cast<int>(CodeKind::Application)}};
+    const auto content = TextOf(header, "content");
+    for (const auto& [name, value] : kContents) {
+        if (value == static_cast<std::int64_t>(kind) && !content.empty() && content != name) {
+            return FailAsWrong(source, "of the content " + QuoteForMessage(content) + ", not " +
+                                           QuoteForMessage(name));
+        }
+    }
+    return std::nullopt;
+}
+
+std::string VersionOf(const CSourceFile& source, const Header& header) {
+    if (auto version = TextOf(header, "version"); IsVersion(version)) {
+        return version;
+    }
+    const auto stem = std::filesystem::path(source.Name()).stem().string();
+    const std::string version(LastVersionIn(stem));
+    return version.empty() ? kVersionWithoutAny : version;
+}
+
+}
+
+std::variant<CodeVersions, Failure> RecogniseCode(const CSourceFile& source, CodeKind kind,
+                                                  std::int32_t deviceType) {
+    const auto header = ReadHeader(source.Head());
+    for (const auto& failure :
+         {ExpectKind(kind, deviceType), ExpectModel(source, header, kind, deviceType),
+          ExpectContent(source, header, kind)}) {
+        if (failure) {
+            return *failure;
+        }
+    }
+    const auto version = VersionOf(source, header);
+    if (kind == CodeKind::Fpga) {
+        return CodeVersions{"", version, ""};
+    }
+    if (kind == CodeKind::Application) {
+        return CodeVersions{version, "", ""};
+    }
+    return CodeVersions{version, TextOf(header, "fpga"), TextOf(header, "boot")};
+}
+
+void InstallCode(DeviceDescription& device, const CodeVersions& versions) {
+    using contract::SelfTest;
+    if (!versions.application.empty()) {
+        device.software.application = versions.application;
+        PassIfPresent(device, SelfTest::ApplicationSw);
+    }
+    if (!versions.fpga.empty()) {
+        device.software.fpgaCode = versions.fpga;
+        PassIfPresent(device, SelfTest::FpgaCode);
+        PassIfPresent(device, SelfTest::FpgaLoad);
+    }
+    if (!versions.boot.empty()) {
+        device.software.boot = versions.boot;
+        PassIfPresent(device, SelfTest::BootCode);
+    }
+}
+
+}
