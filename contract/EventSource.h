@@ -7,9 +7,10 @@
 
 namespace contract {
 
-/// A source of the events of one event interface. The panel subscribes and unsubscribes on the
-/// user-interface thread, also from inside an event of the same source (a host may release it
-/// there), so a source goes through its sinks in a way that stands that.
+/// A source of the events of one event interface. One call at a time, on the thread of the call
+/// (see contract/device/ProgrammingDeviceControl.h); each event interface says where its events are
+/// raised. The panel subscribes and unsubscribes also from inside an event of the same source (a
+/// host may release it there), so a source goes through its sinks in a way that stands that.
 template <class Events>
 class IEventSource {
 public:
@@ -28,6 +29,7 @@ public:
 
 /// What an object that raises events answers when asked for its base: the place to look an event
 /// source up. A step of its own, since an object may have a base and yet offer no such source.
+/// Threads as for the source.
 template <class Events>
 class IBaseObject {
 public:

@@ -6,7 +6,8 @@
 
 namespace contract {
 
-/// The external storages (memory cards) that the device holds. User-interface thread only.
+/// The external storages (memory cards) that the device holds. One call at a time, on the thread of
+/// the call (see ProgrammingDeviceControl.h).
 class IExternalStorages {
 public:
     virtual ~IExternalStorages() = default;

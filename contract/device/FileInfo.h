@@ -7,7 +7,8 @@
 
 namespace contract {
 
-/// One file on the device. User-interface thread only; results are untouched on failure.
+/// One file on the device. One call at a time, on the thread of the call (see
+/// ProgrammingDeviceControl.h); results are untouched on failure.
 ///
 /// The file named "version.fia", in any case, stands for the update package last installed: its
 /// version text is the package's version, dotted numbers such as 2.10.4. Of names and versions the

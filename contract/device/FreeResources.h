@@ -6,8 +6,8 @@
 
 namespace contract {
 
-/// Memory that is free on the device at the moment of GetFreeResources. User-interface thread only;
-/// results are untouched on failure.
+/// Memory that is free on the device at the moment of GetFreeResources. One call at a time, on the
+/// thread of the call (see ProgrammingDeviceControl.h); results are untouched on failure.
 class IFreeResources {
 public:
     virtual ~IFreeResources() = default;

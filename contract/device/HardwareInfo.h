@@ -8,7 +8,8 @@
 namespace contract {
 
 /// What the hardware of a device says of itself. A snapshot: the values belong to the moment of
-/// GetHardwareInfo. User-interface thread only; results are untouched on failure.
+/// GetHardwareInfo. One call at a time, on the thread of the call (see ProgrammingDeviceControl.h);
+/// results are untouched on failure.
 class IHardwareInfo {
 public:
     virtual ~IHardwareInfo() = default;

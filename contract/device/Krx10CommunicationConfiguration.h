@@ -10,8 +10,8 @@ namespace contract {
 
 class IKrx10CommunicationConfiguration2;
 
-/// The network configuration of a device, as first published; it only leads to its successor.
-/// User-interface thread only.
+/// The network configuration of a device, as first published; it only leads to its successor. One
+/// call at a time, on the thread of the call (see ProgrammingDeviceControl.h).
 class IKrx10CommunicationConfiguration {
 public:
     virtual ~IKrx10CommunicationConfiguration() = default;
@@ -29,8 +29,8 @@ using AddressValue = std::uint32_t;
 inline constexpr AddressValue kAddressByDhcp = 0xFFFFFFFF;
 
 /// The complete network configuration. The object is a working copy: setters change the copy, and
-/// ApplyConfiguration writes it to the device. User-interface thread only; results are untouched on
-/// failure.
+/// ApplyConfiguration writes it to the device. One call at a time, on the thread of the call (see
+/// ProgrammingDeviceControl.h); results are untouched on failure.
 class IKrx10CommunicationConfiguration2 {
 public:
     virtual ~IKrx10CommunicationConfiguration2() = default;

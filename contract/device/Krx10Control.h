@@ -12,7 +12,9 @@ class IKrx10CommunicationConfiguration;
 /// Storage media that PrepareMedia can format.
 enum class Medium : std::int32_t { InternalFlash = 1, PcCard = 2 };
 
-/// What the networked devices (KRX-10, KRX-20, KRX-21) add. User-interface thread only.
+/// What the networked devices (KRX-10, KRX-20, KRX-21) add. One call at a time, on the thread of
+/// the call (see ProgrammingDeviceControl.h), where IProgrammingDeviceControl raises events that
+/// come from inside it.
 class IKrx10Control {
 public:
     virtual ~IKrx10Control() = default;

@@ -18,8 +18,8 @@ public:
 /// The locale argument that means the user's default.
 inline constexpr std::uint32_t kUserDefaultLocale = 0x0400;
 
-/// Software versions that only the KRX-20 and KRX-21 have. User-interface thread only; results are
-/// untouched on failure.
+/// Software versions that only the KRX-20 and KRX-21 have. One call at a time, on the thread of the
+/// call (see ProgrammingDeviceControl.h); results are untouched on failure.
 class IKrx20SwInfo {
 public:
     virtual ~IKrx20SwInfo() = default;

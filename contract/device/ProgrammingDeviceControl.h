@@ -26,13 +26,16 @@ inline constexpr std::uint32_t kPcCardTest = 0x2000;
 
 /// The programming-device service: every operation on the connected device.
 ///
-/// One call at a time: the panel calls on the user-interface thread and is blocked until the device
-/// answers; a host may carry the calls out on a thread of its own meanwhile, which then is the
-/// thread of the description and of the events, and the host brings the events to the
-/// user-interface thread. The same goes for every object that an operation delivers. A failing
-/// operation returns a negative status, leaves its results untouched and may leave a description
-/// (contract/ErrorInfo.h). Events may be raised from inside any operation. Objects delivered are
-/// the caller's to release. An operation that succeeds delivers an object that is not null.
+/// One call at a time, on the thread of the call: the panel calls on the user-interface thread and
+/// is blocked until the device answers, but a host may carry each call out on a thread of its own
+/// meanwhile, the same one for all. A device leaves its description there and raises there what
+/// events it raises from inside an operation, any of them; such a host hands both to the
+/// user-interface thread. The same goes for every object that an operation delivers and for those
+/// that lead to this one.
+///
+/// A failing operation returns a negative status, leaves its results untouched and may leave a
+/// description (contract/ErrorInfo.h). Objects delivered are the caller's to release. An operation
+/// that succeeds delivers an object that is not null.
 class IProgrammingDeviceControl {
 public:
     virtual ~IProgrammingDeviceControl() = default;

@@ -14,9 +14,12 @@ inline constexpr Guid kProgrammingDeviceControlEvents{
 
 /// Events of the programming-device control, by number.
 ///
-/// Raised on the user-interface thread only. A handler may run while a device operation is still in
-/// progress (the answer to RequestMode comes so) and may call the device again. Handlers return
-/// success; a device does not act on their result.
+/// A device raises them from inside an operation, on the thread of the call (see
+/// ProgrammingDeviceControl.h), or between operations on the user-interface thread; on no other.
+/// The panel's handlers run on the user-interface thread: a host that carries calls out elsewhere
+/// brings the events there, in their order and before the call returns. A handler may run while a
+/// device operation is still in progress (the answer to RequestMode comes so) and may call the
+/// device again. Handlers return success; a device does not act on their result.
 class _IProgrammingDeviceControlEvents {
 public:
     virtual ~_IProgrammingDeviceControlEvents() = default;

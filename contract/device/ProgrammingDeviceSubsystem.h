@@ -10,7 +10,8 @@ class IKrx10Control;
 class IProgrammingDeviceControl;
 
 /// The programming-device subsystem ("KxProgrammingDevice"): the way to the device's control
-/// objects. User-interface thread only; results are untouched on failure.
+/// objects. One call at a time, on the thread of the call (see ProgrammingDeviceControl.h); results
+/// are untouched on failure.
 class IProgrammingDeviceSubsystem {
 public:
     virtual ~IProgrammingDeviceSubsystem() = default;

@@ -35,7 +35,8 @@ enum class SelfTest : std::int32_t {
 /// Number of self-tests; their values run from 1 to it.
 inline constexpr std::int32_t kSelfTestCount = 21;
 
-/// Results of the self-tests that the device ran when it last started. User-interface thread only.
+/// Results of the self-tests that the device ran when it last started. One call at a time, on the
+/// thread of the call (see ProgrammingDeviceControl.h).
 class ISelfTestResults {
 public:
     virtual ~ISelfTestResults() = default;

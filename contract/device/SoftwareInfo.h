@@ -10,8 +10,8 @@ namespace contract {
 class IKrx20SwInfo;
 
 /// The software versions of a device, each a UTF-8 text that is empty when the device has no such
-/// part. A report shows the first 80 bytes. User-interface thread only; results are untouched on
-/// failure.
+/// part. A report shows the first 80 bytes. One call at a time, on the thread of the call (see
+/// ProgrammingDeviceControl.h); results are untouched on failure.
 class ISoftwareInfo {
 public:
     virtual ~ISoftwareInfo() = default;

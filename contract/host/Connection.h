@@ -9,7 +9,8 @@ namespace contract {
 
 class _IExtConnectionEvents;
 
-/// The state of a connection. User-interface thread only.
+/// The state of a connection. One call at a time, on the thread of the call (see
+/// contract/device/ProgrammingDeviceControl.h).
 class IConnectionState {
 public:
     virtual ~IConnectionState() = default;
@@ -20,8 +21,9 @@ public:
 
 /// The host's connection to a device. Results are untouched on failure.
 ///
-/// Used on the user-interface thread; the panel guards its references to the connection with a
-/// lock all the same.
+/// One call at a time, on the thread of the call (see contract/device/ProgrammingDeviceControl.h);
+/// its events reach the panel on the user-interface thread. The panel guards its references to the
+/// connection with a lock all the same.
 class IConnection {
 public:
     virtual ~IConnection() = default;

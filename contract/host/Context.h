@@ -26,7 +26,9 @@ public:
     virtual Status Unregister(std::uint32_t cookie) = 0;
 
     /// Asks for the control of the panel's view. kNoSuchInterface from a host whose view the panel
-    /// cannot close; the panel is then left as a bare view.
+    /// cannot close; the panel is then left as a bare view: it has no Close button and shows of a
+    /// device only the memory sizes and error boxes. The memory fields are addressed by number, the
+    /// other controls through a table that a bare view leaves empty.
     virtual Status QueryHostViewControl(std::shared_ptr<IHostViewControl>& control) = 0;
 
     /// Asks for the host's message boxes. kNoSuchInterface from a host without; the panel then uses

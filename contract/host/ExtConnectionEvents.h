@@ -19,9 +19,10 @@ inline constexpr std::int32_t kConnectionDeviceGone = 5;
 /// boxes where something fails, before the event returns.
 inline constexpr std::int32_t kConnectionDeviceReady = 7;
 
-/// Events of the host's connection object, by number. Raised on the user-interface thread; a host
-/// does not act on the results. A well-mannered host raises them only while no command or refresh
-/// of the panel is running.
+/// Events of the host's connection object, by number. The panel's handlers run on the
+/// user-interface thread: a host that learns of a change on another one brings the event there. A
+/// host does not act on the results. A well-mannered one raises events only while no command or
+/// refresh of the panel is running.
 class _IExtConnectionEvents {
 public:
     virtual ~_IExtConnectionEvents() = default;

@@ -11,8 +11,9 @@ namespace contract {
 inline constexpr Guid kProductDetectionControl{
     0x3BF39C3B, 0x8711, 0x4E61, {0xBD, 0x48, 0xEC, 0x6F, 0x12, 0x12, 0x7D, 0x17}};
 
-/// Switch of the host's phone polling. User-interface thread only. The panel switches polling off
-/// for the length of a long device operation and on again only if it was on.
+/// Switch of the host's phone polling. One call at a time, on the thread of the call (see
+/// contract/device/ProgrammingDeviceControl.h). The panel switches polling off for the length of a
+/// long device operation and on again only if it was on.
 class IProductDetectionControl {
 public:
     virtual ~IProductDetectionControl() = default;
@@ -23,7 +24,7 @@ public:
     virtual Status SetPollingEnabled(bool enabled) = 0;
 };
 
-/// The host's detection of connected phones. User-interface thread only.
+/// The host's detection of connected phones. Threads as for its switch.
 class IProductDetection {
 public:
     virtual ~IProductDetection() = default;
@@ -33,7 +34,7 @@ public:
     QueryProductDetectionControl(std::shared_ptr<IProductDetectionControl>& control) = 0;
 };
 
-/// The host's product information subsystem. User-interface thread only.
+/// The host's product information subsystem. Threads as for the switch above.
 class IProductInformation {
 public:
     virtual ~IProductInformation() = default;

@@ -10,8 +10,8 @@ class IProductInformation;
 class IProgrammingDeviceSubsystem;
 
 /// A subsystem of the host, not yet known by kind: each query asks whether it is one.
-/// User-interface thread only. A query that does not apply fails with kNoSuchInterface and leaves
-/// its result untouched.
+/// One call at a time, on the thread of the call (see contract/device/ProgrammingDeviceControl.h).
+/// A query that does not apply fails with kNoSuchInterface and leaves its result untouched.
 class ISubsystem {
 public:
     virtual ~ISubsystem() = default;

@@ -16,7 +16,8 @@ inline constexpr Guid kProgrammingDeviceSubsystem{
 inline constexpr Guid kProductInformationSubsystem{
     0x643BAC2B, 0x3BED, 0x4744, {0xB2, 0x25, 0x3C, 0xFA, 0x5D, 0x35, 0x58, 0x1A}};
 
-/// The host's door to its subsystems. User-interface thread only.
+/// The host's door to its subsystems. One call at a time, on the thread of the call (see
+/// contract/device/ProgrammingDeviceControl.h).
 class ISubsystemAccess {
 public:
     virtual ~ISubsystemAccess() = default;
