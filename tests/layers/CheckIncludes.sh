@@ -25,7 +25,7 @@ declare -A libraries=(
     [interception]=""
     [frontend/common]=""
     [frontend/headless]=""
-    [simulator]="nlohmann/json.hpp nlohmann/json_fwd.hpp dirent.h fcntl.h sys/stat.h sys/types.h unistd.h"
+    [simulator]="nlohmann/json.hpp nlohmann/json_fwd.hpp ini.h dirent.h fcntl.h sys/file.h sys/stat.h sys/types.h unistd.h"
 )
 
 standard=" algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv
