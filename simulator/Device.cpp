@@ -7,6 +7,19 @@
 
 namespace simulator {
 
+namespace {
+
+/// `other` has no files. Those of `description` are put aside and not copied: there may be many.
+bool IsSameButForFiles(DeviceDescription& description, const DeviceDescription& other) {
+    auto files = std::move(description.files);
+    description.files.clear();
+    const bool isSame = description == other;
+    description.files = std::move(files);
+    return isSame;
+}
+
+}
+
 std::shared_ptr<CDevice> CDevice::Create(DeviceDescription description,
                                          std::unique_ptr<IDeviceStore> store) {
     return std::make_shared<CDevice>(std::move(description), std::move(store));
@@ -52,7 +65,7 @@ DeviceDescription CDevice::State() const {
 }
 
 Outcome CDevice::Change(DeviceDescription next, const NewContent* content) {
-    if (!content && next == State()) {
+    if (!content && next.files == *m_files && IsSameButForFiles(next, m_description)) {
         return std::nullopt;
     }
     if (m_store) {

@@ -67,35 +67,45 @@ std::optional<std::int32_t> UnusedId(const Files& files, std::int32_t type) {
     return static_cast<std::int32_t>(unused - isUsed.begin());
 }
 
-std::int32_t LocationFor(const DeviceDescription& device, const PhoneFile& file,
-                         const StoredFile* replaced, Destination destination, UploadMethod method) {
+std::int32_t LocationFor(const DeviceDescription& device, const StoredFile& entry, bool isNew,
+                         Destination destination, UploadMethod method) {
     if (destination != Destination::Default) {
         return static_cast<std::int32_t>(destination);
     }
     if (method == UploadMethod::Flashing) {
         return kInFlash;
     }
-    if (replaced) {
-        return replaced->location;
+    // A made-up location is nowhere that a file could be written to.
+    const bool isKnown = entry.location >= kInRam && entry.location <= kOnPcCard;
+    if (!isNew && isKnown) {
+        return entry.location;
     }
     // The KRX-8 family tries MCU software from RAM before it is moved to flash memory.
-    return file.type == kMcuSoftware && IsKrx8Family(device.type) ? kInRam : kInFlash;
+    return entry.type == kMcuSoftware && IsKrx8Family(device.type) ? kInRam : kInFlash;
 }
 
-StoredFile MakeEntry(const PhoneFile& file, const StoredFile* replaced, std::int32_t location) {
-    StoredFile entry;
-    if (replaced) {
-        entry = *replaced;
+struct Place {
+    std::size_t file;
+    bool isNew;
+};
+
+/// Puts what is known of the file into the entry that it replaces, else into a new one. Its size is
+/// 0 for now: what the replaced file takes is free for it.
+Place MakePlace(Files& files, const PhoneFile& file) {
+    const auto present = FindNamesake(files, file);
+    const Place place{static_cast<std::size_t>(present - files.begin()), present == files.end()};
+    if (place.isNew) {
+        files.emplace_back();
     }
+    auto& entry = files[place.file];
     entry.name = file.name;
     entry.type = file.type;
     entry.id = file.id.value_or(entry.id);
     entry.version = file.version;
-    entry.sizeBytes = file.sizeBytes;
-    entry.location = location;
+    entry.sizeBytes = 0;
     entry.generation = file.generation.value_or(entry.generation);
     entry.content.clear();
-    return entry;
+    return place;
 }
 
 Failure FailAsTaken(const PhoneFile& file, const StoredFile& holder) {
@@ -117,10 +127,7 @@ Outcome ClaimId(Files& files, const PhoneFile& file, UploadMethod method) {
     return std::nullopt;
 }
 
-Outcome GiveId(const Files& files, StoredFile& entry, bool hasId) {
-    if (hasId) {
-        return std::nullopt;
-    }
+Outcome GiveUnusedId(const Files& files, StoredFile& entry) {
     const auto id = UnusedId(files, entry.type);
     if (!id) {
         return Failure{kMemoryFull, "The device has no identifier left for a file of type " +
@@ -136,7 +143,7 @@ Failure FailAsMissing(std::int32_t type, std::int32_t id) {
                                std::to_string(id) + " on the device"};
 }
 
-bool IsStorageOf(Destination destination) {
+bool IsStorage(Destination destination) {
     return destination == Destination::Flash || destination == Destination::ExternalStorage;
 }
 
@@ -167,85 +174,71 @@ Outcome ExpectRoom(const DeviceDescription& device, const std::string& name, std
                                     " bytes free"};
 }
 
-std::variant<StorePlan, Failure> PlanStore(const DeviceDescription& device, const PhoneFile& file,
+std::variant<StorePlan, Failure> PlanStore(DeviceDescription device, const PhoneFile& file,
                                            Destination destination, UploadMethod method) {
-    StorePlan plan{device};
-    auto& files = plan.next.files;
-    if (auto failure = ClaimId(files, file, method)) {
+    const auto present = FindNamesake(device.files, file);
+    if (method == UploadMethod::Version && present != device.files.end() &&
+        !IsNewer(file.version, present->version)) {
+        const auto index = static_cast<std::size_t>(present - device.files.begin());
+        return StorePlan{std::move(device), index, true};
+    }
+    if (auto failure = ClaimId(device.files, file, method)) {
         return *failure;
     }
-    const auto namesake = FindNamesake(files, file);
-    const auto* replaced = namesake == files.end() ? nullptr : &*namesake;
-    plan.file = static_cast<std::size_t>(namesake - files.begin());
-    if (method == UploadMethod::Version && replaced && !IsNewer(file.version, replaced->version)) {
-        plan.next = device;
-        plan.isUpToDate = true;
-        return plan;
+    const auto place = MakePlace(device.files, file);
+    auto& entry = device.files[place.file];
+    entry.location = LocationFor(device, entry, place.isNew, destination, method);
+    auto failure = place.isNew && !file.id ? GiveUnusedId(device.files, entry) : std::nullopt;
+    if (!failure) {
+        failure = ExpectRoom(device, file.name, file.sizeBytes, entry.location);
     }
-    auto entry =
-        MakeEntry(file, replaced, LocationFor(device, file, replaced, destination, method));
-    if (replaced) {
-        // What it takes is free for the new one.
-        files[plan.file].sizeBytes = 0;
-    }
-    if (auto failure = GiveId(files, entry, replaced || file.id)) {
+    if (failure) {
         return *failure;
     }
-    if (auto failure = ExpectRoom(plan.next, file.name, file.sizeBytes, entry.location)) {
-        return *failure;
-    }
-    if (replaced) {
-        files[plan.file] = std::move(entry);
-    } else {
-        files.push_back(std::move(entry));
-    }
-    return plan;
+    entry.sizeBytes = file.sizeBytes;
+    return StorePlan{std::move(device), place.file};
 }
 
-std::variant<DeviceDescription, Failure> PlanMove(const DeviceDescription& device,
-                                                  std::int32_t type, std::int32_t id,
-                                                  Destination destination) {
-    if (!IsStorageOf(destination)) {
+std::variant<DeviceDescription, Failure> PlanMove(DeviceDescription device, std::int32_t type,
+                                                  std::int32_t id, Destination destination) {
+    if (!IsStorage(destination)) {
         return Failure{kInvalidArgument, "Files are moved to flash memory (2) or to the memory "
                                          "card (3), not to " +
                                              std::to_string(static_cast<int>(destination))};
     }
     const auto location = static_cast<std::int32_t>(destination);
-    auto next = device;
-    bool isThere = false;
-    for (auto& file : next.files) {
-        if ((type != 0 && file.type != type) || AddressOf(file.id) != AddressOf(id)) {
-            continue;
-        }
-        isThere = true;
-        if (file.location == location) {
-            continue;
-        }
-        if (auto failure = ExpectRoom(next, file.name, file.sizeBytes, location)) {
-            return *failure;
-        }
-        file.location = location;
-        return next;
-    }
-    if (!isThere) {
+    const auto isMeant = [&](const StoredFile& file) {
+        return (type == 0 || file.type == type) && AddressOf(file.id) == AddressOf(id);
+    };
+    auto& files = device.files;
+    if (std::none_of(files.begin(), files.end(), isMeant)) {
         return FailAsMissing(type, id);
     }
-    return next;
+    const auto file = std::find_if(files.begin(), files.end(), [&](const StoredFile& candidate) {
+        return isMeant(candidate) && candidate.location != location;
+    });
+    if (file == files.end()) {
+        return device;
+    }
+    if (auto failure = ExpectRoom(device, file->name, file->sizeBytes, location)) {
+        return *failure;
+    }
+    file->location = location;
+    return device;
 }
 
-std::variant<DeviceDescription, Failure> PlanDelete(const DeviceDescription& device,
-                                                    std::int32_t type, std::int32_t id) {
-    auto next = device;
+std::variant<DeviceDescription, Failure> PlanDelete(DeviceDescription device, std::int32_t type,
+                                                    std::int32_t id) {
     if (type == 0 && id == 0) {
-        next.files.clear();
-        return next;
+        device.files.clear();
+        return device;
     }
-    const auto file = FindAt(next.files, type, id);
-    if (file == next.files.end()) {
+    const auto file = FindAt(device.files, type, id);
+    if (file == device.files.end()) {
         return FailAsMissing(type, id);
     }
-    next.files.erase(file);
-    return next;
+    device.files.erase(file);
+    return device;
 }
 
 }

@@ -9,7 +9,8 @@
 #include <string>
 #include <variant>
 
-/// Decisions about the files of a device, as functions of what the device holds.
+/// Decisions about the files of a device, as functions of what the device holds (handed over, and
+/// given back changed).
 namespace simulator {
 
 /// Where an upload goes, as the service's operations number it.
@@ -40,17 +41,16 @@ Outcome ExpectRoom(const DeviceDescription& device, const std::string& name, std
                    std::int32_t location);
 
 /// Stores a file: in place of the one of the same name and type, else behind the last.
-std::variant<StorePlan, Failure> PlanStore(const DeviceDescription& device, const PhoneFile& file,
+std::variant<StorePlan, Failure> PlanStore(DeviceDescription device, const PhoneFile& file,
                                            Destination destination, UploadMethod method);
 
 /// Moves a file to another memory. Type 0 stands for any type: the first file of that identifier
 /// (low 16 bits) that is not there yet. A file that is there stays.
-std::variant<DeviceDescription, Failure> PlanMove(const DeviceDescription& device,
-                                                  std::int32_t type, std::int32_t id,
-                                                  Destination destination);
+std::variant<DeviceDescription, Failure> PlanMove(DeviceDescription device, std::int32_t type,
+                                                  std::int32_t id, Destination destination);
 
 /// Deletes a file; type 0 with identifier 0: every file.
-std::variant<DeviceDescription, Failure> PlanDelete(const DeviceDescription& device,
-                                                    std::int32_t type, std::int32_t id);
+std::variant<DeviceDescription, Failure> PlanDelete(DeviceDescription device, std::int32_t type,
+                                                    std::int32_t id);
 
 }

@@ -107,33 +107,34 @@ private:
     }
 
     Outcome InstallVersionFile() {
+        const auto text = std::string(kVersionFileName) + " " + m_description.version + "\n";
         auto state = m_device.State();
         PassIfPresent(state, contract::SelfTest::SecondaryAndAlgorithmFiles);
-        const auto text = std::string(kVersionFileName) + " " + m_description.version + "\n";
-        PhoneFile file{kVersionFileName,
-                       kMcuSoftware,
-                       static_cast<std::int32_t>(text.size()),
-                       {},
-                       m_description.version,
-                       {}};
         // A device may hold several that panels take for it; none of them may tell an old version.
         std::erase_if(state.files, [](const StoredFile& stored) {
             return IsSameName(stored.name, kVersionFileName);
         });
-        const bool isFree =
-            std::none_of(state.files.begin(), state.files.end(), [](const StoredFile& stored) {
-                return stored.type == kMcuSoftware && (stored.id & 0xFFFF) == kVersionFileId;
-            });
-        if (isFree) {
+        PhoneFile file;
+        file.name = kVersionFileName;
+        file.type = kMcuSoftware;
+        file.sizeBytes = static_cast<std::int32_t>(text.size());
+        file.version = m_description.version;
+        if (!HasVersionFileId(state)) {
             file.id = kVersionFileId;
         }
-        auto plan = PlanStore(state, file, Destination::Flash, UploadMethod::Force);
+        auto plan = PlanStore(std::move(state), file, Destination::Flash, UploadMethod::Default);
         if (auto* failure = std::get_if<Failure>(&plan)) {
             return std::move(*failure);
         }
         auto& store = std::get<StorePlan>(plan);
         const NewContent content{store.file, text};
         return m_device.Change(std::move(store.next), &content);
+    }
+
+    static bool HasVersionFileId(const DeviceDescription& state) {
+        return std::any_of(state.files.begin(), state.files.end(), [](const StoredFile& stored) {
+            return stored.type == kMcuSoftware && (stored.id & 0xFFFF) == kVersionFileId;
+        });
     }
 
     Outcome EndInNormalMode() {

@@ -169,6 +169,22 @@ TEST_F(FolderStoreTest, ModeRequestedIsTheModeAfterOpeningAgain) {
     EXPECT_EQ(Open()->Mode(), 1);
 }
 
+TEST_F(FolderStoreTest, ResetThatChangesNothingNeedsNoFolder) {
+    const auto device = Open();
+    fs::remove_all(m_folder.Path());
+    EXPECT_EQ(device->RequestMode(contract::ModeRequest::Reset), contract::kSuccess);
+}
+
+TEST_F(FolderStoreTest, ResetThatCannotBeStoredFailsAndTheDeviceAnswersAgain) {
+    Describe(Replaced(kGoodDescription, "\"Normal\"", "\"Maintenance\""));
+    const auto device = Open();
+    fs::remove_all(m_folder.Path());
+    ExpectFailure(device->RequestMode(contract::ModeRequest::Reset), 0x8007001D,
+                  "The device's folder \"" + m_folder.Path().string() +
+                      "\" cannot be written: No such file or directory");
+    EXPECT_EQ(device->Mode(), 3);
+}
+
 TEST_F(FolderStoreTest, ModeThatIsOnlyEnteredIsForgotten) {
     Open()->EnterMode(kMaintenanceMode);
     EXPECT_EQ(Open()->Mode(), 1);

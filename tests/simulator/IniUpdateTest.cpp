@@ -1,3 +1,4 @@
+#include "simulator/device/VersionText.h"
 #include "tests/simulator/WritingFixture.h"
 
 namespace simulator {
@@ -205,6 +206,9 @@ class SamplePackageTest : public WritingFixture, public testing::WithParamInterf
 
 TEST_P(SamplePackageTest, PackageUpdatesTheSampleAsAWhole) {
     ConnectSample(GetParam());
+    for (const auto& file : *m_device->Files()) {
+        EXPECT_TRUE(file.name != "version.fia" || IsNewer("5.2.0", file.version));
+    }
     const auto* ini = GetParam().starts_with("krx-8") ? "krx8upd.ini" : "krxxupd.ini";
     EXPECT_EQ(Control()->UpdateFromIniFile(std::string(KRX8_PACKAGE) + "\\Flash\\" + ini),
               contract::kSuccess);

@@ -1,11 +1,29 @@
 #include "tests/simulator/WritingFixture.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace simulator {
 namespace {
 
 using NameList = std::vector<std::string>;
+
+/// Gives up the rights of root while it lives, if the tests have them.
+class CWithoutRoot {
+public:
+    CWithoutRoot() : m_user(geteuid()) {
+        if (m_user == 0) {
+            constexpr uid_t kNobody = 65534;
+            EXPECT_EQ(seteuid(kNobody), 0);
+        }
+    }
+    ~CWithoutRoot() { EXPECT_EQ(seteuid(m_user), 0); }
+    CWithoutRoot(const CWithoutRoot&) = delete;
+    CWithoutRoot& operator=(const CWithoutRoot&) = delete;
+
+private:
+    const uid_t m_user;
+};
 
 class UploadTest : public WritingFixture {
 protected:
@@ -63,6 +81,25 @@ TEST_F(UploadTest, UploadUnderSameNameReplacesAndKeepsTheIdentifier) {
     EXPECT_EQ(Names(), (NameList{"A_ALG.fia", "z_alg.fia"}));
     EXPECT_EQ(FileNamed("A_ALG.fia"),
               (StoredFile{"A_ALG.fia", 21, 7, "0.9", 9014, kInFlash, 4, ""}));
+}
+
+TEST_F(UploadTest, ReplacedFileOfMadeUpLocationGoesToFlash) {
+    Connect(DeviceWith({{"a_alg.fia", 21, 7, "1.0", 20, 99, 4, ""}}));
+    EXPECT_EQ(Upload(WorkstationFile("a_alg.fia", "a")), contract::kSuccess);
+    EXPECT_EQ(FileNamed("a_alg.fia").location, 2);
+}
+
+TEST_F(UploadTest, DeviceWithoutFreeIdentifierRefuses) {
+    auto description = SmallDevice(kKrx20);
+    for (std::int32_t id = 0; id <= 0xFFFF; ++id) {
+        description.files.push_back({"a", 21, id, "", 0, kInFlash, 0, ""});
+    }
+    description.files.erase(description.files.begin() + 500);
+    Connect(description);
+    EXPECT_EQ(Upload(WorkstationFile("b_alg.fia", "b")), contract::kSuccess);
+    EXPECT_EQ(FileNamed("b_alg.fia").id, 500);
+    ExpectFailure(Upload(WorkstationFile("c_alg.fia", "c")), 0x80070070,
+                  "The device has no identifier left for a file of type 21");
 }
 
 TEST_F(UploadTest, UploadGoesWhereTheDestinationSays) {
@@ -162,6 +199,27 @@ TEST_F(UploadTest, FolderIsRefused) {
     ExpectRefused(Upload(path), 0x80070057, "\"" + path + "\" is not a plain file");
 }
 
+TEST_F(UploadTest, FileThatMayNotBeReadIsRefused) {
+    Connect(SmallDevice(kKrx20));
+    const auto path = WorkstationFile("b_alg.fia", "b");
+    ASSERT_EQ(chmod(m_workstation.Path().c_str(), 0755), 0);
+    ASSERT_EQ(chmod(path.c_str(), 0), 0);
+    const CWithoutRoot rights;
+    ExpectRefused(Upload(path), 0x80070005, "\"" + path + "\" cannot be read: Permission denied");
+}
+
+TEST_F(UploadTest, FileInAFolderThatMayNotBeReadIsRefused) {
+    Connect(SmallDevice(kKrx20));
+    const auto path = WorkstationFile("sub/b_alg.fia", "b");
+    ASSERT_EQ(chmod((m_workstation.Path() / "sub").c_str(), 0), 0);
+    {
+        const CWithoutRoot rights;
+        ExpectRefused(Upload(path), 0x80070005,
+                      "\"" + path + "\" cannot be read: Permission denied");
+    }
+    ASSERT_EQ(chmod((m_workstation.Path() / "sub").c_str(), 0700), 0);
+}
+
 TEST_F(UploadTest, PipeIsRefusedWithoutWaiting) {
     Connect(SmallDevice(kKrx20));
     const auto path = m_workstation.Path().string() + "/pipe";
@@ -240,6 +298,29 @@ TEST_F(UploadTest, DeviceChangedFromInsideAMessageIsNotSetBack) {
     EXPECT_EQ(Upload(WorkstationFile("outer_alg.fia", "b")), contract::kSuccess);
     EXPECT_EQ(Names(), (NameList{"inner_alg.fia", "outer_alg.fia"}));
     EXPECT_EQ(FileNamed("outer_alg.fia").id, 2);
+}
+
+TEST_F(UploadTest, KnobsFailTheUploadBeforeItStarts) {
+    auto description = SmallDevice(kKrx20);
+    description.latency.operationsMs["ProgrammingDeviceControl.UploadPhoneFile"] = 70;
+    description.faults = {{"ProgrammingDeviceControl.UploadPhoneFile", 1, false,
+                           contract::Status::FromBits(0x80000001), "Worn out"}};
+    Connect(description);
+    const auto path = WorkstationFile("b_alg.fia", "b");
+    ExpectRefused(Upload(path), 0x80000001, "Worn out");
+    EXPECT_EQ(Upload(path), contract::kSuccess);
+    EXPECT_EQ(m_waits,
+              std::vector(2, interception::CLatency::Duration(std::chrono::milliseconds(70))));
+}
+
+TEST_F(UploadTest, DeviceLostInTheUploadKeepsWhatItHeld) {
+    auto description = SmallDevice(kKrx20);
+    description.loss = DeviceLoss{"ProgrammingDeviceControl.UploadPhoneFile", 1, {}};
+    Connect(description);
+    ExpectRefused(Upload(WorkstationFile("b_alg.fia", "b")), 0x8007048F,
+                  "The programming device was disconnected");
+    m_host.BringBackLostDevice();
+    EXPECT_EQ(Upload(WorkstationFile("b_alg.fia", "b")), contract::kSuccess);
 }
 
 TEST_F(UploadTest, UploadWithoutDeviceFails) {
