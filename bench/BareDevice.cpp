@@ -1,5 +1,6 @@
 #include "bench/BareDevice.h"
 
+#include "bench/Require.h"
 #include "contract/ErrorInfo.h"
 #include "contract/device/FileInfo.h"
 #include "contract/device/FileListing.h"
@@ -7,18 +8,11 @@
 #include "contract/device/ProgrammingDeviceControl.h"
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 
 namespace bench {
 
 namespace {
-
-void Require(contract::Status status) {
-    if (status.IsFailure()) {
-        throw std::runtime_error("the simulated device failed");
-    }
-}
 
 template <Caller kCaller>
 class CReader {
@@ -44,7 +38,7 @@ private:
         if constexpr (kCaller == Caller::Client) {
             m_errorInfo.Clear();
         }
-        Require(operation());
+        Require(operation(), "the simulated device failed");
     }
 
     void ReadFreeMemory(contract::IProgrammingDeviceControl& control) {

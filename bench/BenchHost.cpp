@@ -1,11 +1,11 @@
 #include "bench/BenchHost.h"
 
+#include "bench/Require.h"
 #include "contract/device/SelfTestResults.h"
 #include "contract/host/ExtConnectionEvents.h"
 #include "panel/control/KRX8Maintenance.h"
 #include "simulator/Device.h"
 
-#include <stdexcept>
 #include <string>
 
 namespace bench {
@@ -17,11 +17,7 @@ public:
     contract::Status ClosePanel() override { return contract::kSuccess; }
 };
 
-void Require(contract::Status status) {
-    if (status.IsFailure()) {
-        throw std::runtime_error("the panel could not be set up");
-    }
-}
+constexpr const char* kNoPanel = "the panel could not be set up";
 
 }
 
@@ -56,10 +52,10 @@ CBenchHost::CBenchHost(std::unique_ptr<panel::IToolkit> toolkit, void* nativePar
     : m_host(), m_panel(panel::CKRX8Maintenance::Create(std::move(toolkit))) {
     m_host.SetHostViewControl(std::make_shared<CHostView>());
     m_host.InsertDevice(simulator::CDevice::Create(device));
-    Require(m_panel->SetContext(m_host.Context()));
-    Require(m_panel->CreateView(nativeParent));
-    Require(m_panel->SetSubsystemAccess(m_host.SubsystemAccess()));
-    Require(m_panel->SetConnection(m_host.Connection()));
+    Require(m_panel->SetContext(m_host.Context()), kNoPanel);
+    Require(m_panel->CreateView(nativeParent), kNoPanel);
+    Require(m_panel->SetSubsystemAccess(m_host.SubsystemAccess()), kNoPanel);
+    Require(m_panel->SetConnection(m_host.Connection()), kNoPanel);
 }
 
 CBenchHost::~CBenchHost() { m_panel->DestroyView(); }
