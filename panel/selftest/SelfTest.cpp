@@ -1,5 +1,6 @@
 #include "panel/selftest/SelfTest.h"
 
+#include "panel/control/BusyCursor.h"
 #include "panel/control/Call.h"
 #include "panel/control/Help.h"
 #include "panel/control/OutputArea.h"
@@ -18,8 +19,8 @@ constexpr int kStatusColumn = 1;
 }
 
 CSelfTest::CSelfTest(const std::shared_ptr<contract::ISelfTestResults>& results,
-                     COutputArea& output, CHelp& help)
-    : m_results(results), m_output(output), m_help(help) {}
+                     PanelServices& services, CHelp& help)
+    : m_results(results), m_services(services), m_help(help) {}
 
 void CSelfTest::OnInit(IView& view) {
     m_view = &view;
@@ -29,12 +30,13 @@ void CSelfTest::OnInit(IView& view) {
     }
     const contract::Status status = FillList(view);
     if (status.IsFailure()) {
-        m_output.ReportError(LoadPanelString(StringId::CannotGetSelfTestResults),
-                             "Self-test results", status);
+        m_services.output.ReportError(LoadPanelString(StringId::CannotGetSelfTestResults),
+                                      "Self-test results", status);
     }
 }
 
 contract::Status CSelfTest::FillList(IView& view) {
+    const BusyCursor busy(m_services.toolkit);
     int index = 0;
     for (const SelfTestRow& test : SelfTestRows()) {
         std::int32_t code = 0;

@@ -38,7 +38,7 @@ bool CSelfTestStatus::QuerySelfTestStatus() {
 void CSelfTestStatus::ShowDetails() {
     std::shared_ptr<contract::ISelfTestResults> results;
     if (ObtainResults(results)) {
-        CSelfTest dialog(results, m_services.output, m_help);
+        CSelfTest dialog(results, m_services, m_help);
         m_services.toolkit.RunDialog(kSelfTestTemplate, dialog, Owner::Panel);
     }
 }

@@ -3,6 +3,9 @@
 #include "panel/selftest/SelfTestTemplate.h"
 #include "tests/support/RoomFixture.h"
 
+#include <functional>
+#include <utility>
+
 namespace {
 
 using namespace panel;
@@ -40,6 +43,9 @@ protected:
         ConnectDevice(device);
         ForgetWhatWasSeen();
         faults->Clear();
+        for (std::size_t row = 1; m_insideQuery && row <= 21; ++row) {
+            faults->RunBefore({row, "SelfTestResults.GetResult"}, m_insideQuery);
+        }
         for (const auto& [call, fault] : m_plannedFaults) {
             faults->Fail({call, "SelfTestResults.GetResult"}, fault);
         }
@@ -52,10 +58,14 @@ protected:
         m_plannedFaults.emplace_back(row, std::move(fault));
     }
 
+    /// Runs inside the query for every row of the dialog.
+    void InsideQueries(std::function<void()> action) { m_insideQuery = std::move(action); }
+
     int DialogResult() { return desktop->prompts.Dialogs().back().outcome.code; }
 
 private:
     std::vector<std::pair<std::size_t, interception::Fault>> m_plannedFaults;
+    std::function<void()> m_insideQuery;
 };
 
 TEST_F(SelfTestTest, DialogHasItsTitleAndColumns) {
@@ -106,7 +116,23 @@ TEST_F(SelfTestTest, EachResultStandsBesideItsTest) {
     });
 }
 
+TEST_F(SelfTestTest, WaitCursorIsShownInsideEveryQueryAndGoneInTheDialog) {
+    std::vector<int> depths;
+    InsideQueries([&] { depths.push_back(desktop->cursorDepth); });
+    OpenOn(HealthyDevice(kKrx20), [&](CHeadlessView&) { EXPECT_EQ(desktop->cursorDepth, 0); });
+    EXPECT_EQ(depths, std::vector<int>(21, 1));
+}
+
 // Failing queries
+
+TEST_F(SelfTestTest, WaitCursorIsGoneWhenAFailingQueryIsReported) {
+    FailRow(5, {});
+    int depth = -1;
+    messageService->whileOpen = [&] { depth = desktop->cursorDepth; };
+    OpenOn(HealthyDevice(kKrx20));
+    EXPECT_EQ(depth, 0);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+}
 
 TEST_F(SelfTestTest, FailingFifthQueryLeavesFourRowsAndAMessage) {
     FailRow(5, {contract::Status::FromBits(0x8007001E), "line lost"});
@@ -201,7 +227,7 @@ class SelfTestByItselfTest : public RoomFixture {};
 
 TEST_F(SelfTestByItselfTest, OtherCommandLeavesTheDialogOpen) {
     const std::shared_ptr<contract::ISelfTestResults> results;
-    CSelfTest dialog(results, rooms->output, rooms->help);
+    CSelfTest dialog(results, rooms->services, rooms->help);
     desktop->prompts.AnswerDialog([&](CHeadlessView& view) {
         dialog.OnCommand(3);
         EXPECT_FALSE(view.DialogResult().has_value());
