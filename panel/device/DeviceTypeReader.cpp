@@ -13,32 +13,38 @@ namespace panel {
 
 void CDeviceTypeReader::ReadDeviceType() {
     const auto control = m_services.device.Control();
-    if (!control) {
+    if (!control || !Read(control)) {
         return;
     }
-    const std::string caption = LoadPanelString(StringId::PrommerMaintenance);
+    if (!IsKnown(m_services.state.deviceType)) {
+        m_services.output.ShowMessage("Wrong prommer type detected.",
+                                      LoadPanelString(StringId::PrommerMaintenance),
+                                      contract::kSuccess, "", kWarningStyle);
+        return;
+    }
+    m_refresh.RefreshDeviceInfo();
+}
+
+bool CDeviceTypeReader::Read(const std::shared_ptr<contract::IProgrammingDeviceControl>& control) {
     std::shared_ptr<contract::IHardwareInfo> hardware;
     contract::Status status =
         Obtain(control, &contract::IProgrammingDeviceControl::GetHardwareInfo, hardware);
     if (status.IsFailure()) {
-        m_services.output.ReportError("Failed to read the Programming Device hardware info",
-                                      caption, status);
-        return;
+        Report("Failed to read the Programming Device hardware info", status);
+        return false;
     }
     auto type = static_cast<std::int32_t>(m_services.state.deviceType);
     status = Call(hardware, &contract::IHardwareInfo::GetDeviceType, type);
     if (status.IsFailure()) {
-        m_services.output.ReportError("Failed to read the Programming Device type", caption,
-                                      status);
-        return;
+        Report("Failed to read the Programming Device type", status);
+        return false;
     }
     m_services.state.deviceType = static_cast<DeviceType>(type);
-    if (!IsKnown(m_services.state.deviceType)) {
-        m_services.output.ShowMessage("Wrong prommer type detected.", caption, contract::kSuccess,
-                                      "", kWarningStyle);
-        return;
-    }
-    m_refresh.RefreshDeviceInfo();
+    return true;
+}
+
+void CDeviceTypeReader::Report(const char* text, contract::Status status) {
+    m_services.output.ReportError(text, LoadPanelString(StringId::PrommerMaintenance), status);
 }
 
 }

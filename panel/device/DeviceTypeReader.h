@@ -1,6 +1,13 @@
 #pragma once
 
+#include "contract/Status.h"
 #include "panel/control/PanelServices.h"
+
+#include <memory>
+
+namespace contract {
+class IProgrammingDeviceControl;
+}
 
 namespace panel {
 
@@ -18,6 +25,10 @@ public:
     void ReadDeviceType();
 
 private:
+    /// Keeps the type that the device gives; false when a call failed, which has been reported.
+    bool Read(const std::shared_ptr<contract::IProgrammingDeviceControl>& control);
+    void Report(const char* text, contract::Status status);
+
     PanelServices& m_services;
     CRefreshSequence& m_refresh;
 };
