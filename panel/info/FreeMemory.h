@@ -2,8 +2,6 @@
 
 #include "panel/control/PanelServices.h"
 
-#include <cstdint>
-
 namespace panel {
 
 /// The free memory shown in the information group. User-interface thread only.
