@@ -15,15 +15,9 @@ namespace workstation {
 namespace {
 
 constexpr int kListWidth = 150;
-constexpr int kFolderRole = Qt::UserRole;
-
-CDevicePane::Folder FolderOf(const QListWidgetItem& item) {
-    return item.data(kFolderRole).toString().toStdString();
-}
 
 QListWidgetItem* ItemOf(const CDevicePane::Folder& folder) {
     auto* const item = new QListWidgetItem(NameOf(folder));
-    item->setData(kFolderRole, QString::fromStdString(folder.string()));
     item->setToolTip(QString::fromStdString(folder.string()));
     return item;
 }
@@ -67,9 +61,9 @@ void CDevicePane::OnDisconnect(std::function<void()> disconnect) {
 }
 
 void CDevicePane::ShowDevices(const std::vector<Folder>& folders) {
-    const QListWidgetItem* const before = m_list.currentItem();
-    const Folder chosen = before ? FolderOf(*before) : Folder();
+    const Folder chosen = m_list.currentItem() ? FolderAt(m_list.currentRow()) : Folder();
     m_list.clear();
+    m_folders = folders;
     for (const Folder& folder : folders) {
         m_list.addItem(ItemOf(folder));
     }
@@ -79,7 +73,7 @@ void CDevicePane::ShowDevices(const std::vector<Folder>& folders) {
 
 void CDevicePane::Choose(const Folder& folder) {
     for (int row = 0; row < m_list.count(); ++row) {
-        if (FolderOf(*m_list.item(row)) == folder) {
+        if (FolderAt(row) == folder) {
             m_list.setCurrentRow(row);
         }
     }
@@ -91,28 +85,30 @@ void CDevicePane::Mark(const Folder& connected, bool isGone) {
     for (int row = 0; row < m_list.count(); ++row) {
         QListWidgetItem& item = *m_list.item(row);
         QFont font = m_list.font();
-        font.setBold(IsConnected(item));
+        font.setBold(IsConnected(row));
         item.setFont(font);
-        item.setText(NameOf(FolderOf(item)) + (IsConnected(item) && isGone ? " (gone)" : ""));
+        item.setText(NameOf(FolderAt(row)) + (IsConnected(row) && isGone ? " (gone)" : ""));
     }
     UpdateButtons();
 }
 
-bool CDevicePane::IsConnected(const QListWidgetItem& item) const {
-    return !m_connected.empty() && FolderOf(item) == m_connected;
+bool CDevicePane::IsConnected(int row) const {
+    return !m_connected.empty() && FolderAt(row) == m_connected;
 }
 
 void CDevicePane::ConnectCurrent() {
     if (m_list.currentItem() && m_connect && qt::MayCommand(*this)) {
-        m_connect(FolderOf(*m_list.currentItem()));
+        // A copy: the device that is connected may have the folders listed anew.
+        const Folder folder = FolderAt(m_list.currentRow());
+        m_connect(folder);
     }
 }
 
 void CDevicePane::UpdateButtons() {
-    const QListWidgetItem* const current = m_list.currentItem();
-    const bool bringsBack = current && m_isGone && IsConnected(*current);
+    const bool hasChoice = m_list.currentItem() != nullptr;
+    const bool bringsBack = hasChoice && m_isGone && IsConnected(m_list.currentRow());
     m_connectButton.setText(bringsBack ? "Rec&onnect" : "C&onnect");
-    m_connectButton.setEnabled(current);
+    m_connectButton.setEnabled(hasChoice);
     m_disconnectButton.setEnabled(!m_connected.empty());
 }
 

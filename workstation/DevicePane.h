@@ -2,12 +2,12 @@
 
 #include <QWidget>
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <vector>
 
 class QListWidget;
-class QListWidgetItem;
 class QPushButton;
 
 namespace workstation {
@@ -36,13 +36,17 @@ public:
 
 private:
     void ConnectCurrent();
-    bool IsConnected(const QListWidgetItem& item) const;
+    const Folder& FolderAt(int row) const { return m_folders[static_cast<std::size_t>(row)]; }
+    bool IsConnected(int row) const;
     void UpdateButtons();
 
     QListWidget& m_list;
     QPushButton& m_connectButton;
     QPushButton& m_disconnectButton;
     std::function<void(const Folder&)> m_connect;
+    // Beside the rows, since a folder's name may be no text: it is bytes that only the file system
+    // need understand.
+    std::vector<Folder> m_folders;
     Folder m_connected;
     bool m_isGone = false;
 };

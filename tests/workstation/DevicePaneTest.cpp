@@ -59,6 +59,21 @@ TEST_F(DevicePaneTest, ActivatedDeviceIsConnected) {
     EXPECT_THAT(m_connected, ElementsAre("/devices/first"));
 }
 
+TEST_F(DevicePaneTest, FolderWhoseNameIsNoTextIsToldByteForByte) {
+    m_pane.ShowDevices({"/devices/b\xFCro", "/devices/b\xE9ro"});
+    m_pane.Choose("/devices/b\xE9ro");
+    EXPECT_EQ(List().currentRow(), 1);
+    Button("connect").click();
+    EXPECT_THAT(m_connected, ElementsAre("/devices/b\xE9ro"));
+}
+
+TEST_F(DevicePaneTest, MarkFindsAFolderWhoseNameIsNoText) {
+    m_pane.ShowDevices({"/devices/b\xFCro", "/devices/b\xE9ro"});
+    m_pane.Mark("/devices/b\xE9ro");
+    EXPECT_FALSE(List().item(0)->font().bold());
+    EXPECT_TRUE(List().item(1)->font().bold());
+}
+
 TEST_F(DevicePaneTest, DisconnectButtonTellsSo) {
     m_pane.Mark("/devices/first");
     Button("disconnect").click();
