@@ -45,7 +45,6 @@ CStatusLine::CStatusLine(QWidget* parent)
     addWidget(&m_operation, 1);
     addPermanentWidget(&m_progress);
     addPermanentWidget(&m_polling);
-    m_progress.hide();
     m_clearing.setParent(this);
     m_clearing.setObjectName("clearing");
     m_clearing.setSingleShot(true);
