@@ -6,7 +6,9 @@
 #include <QString>
 
 #include <cstdlib>
+#include <ranges>
 #include <string>
+#include <string_view>
 
 namespace workstation {
 
@@ -43,14 +45,42 @@ bool HasWayland() {
            !plugins.entryList({"libqwayland*"}).isEmpty();
 }
 
+struct Platform {
+    std::string_view name; ///< or what names begin with: "xcb:nographicsbuffers", "wayland-egl"
+    bool (*hasDisplay)();
+};
+
+constexpr Platform kPlatforms[] = {
+    {"xcb", HasX11},
+    {"wayland", HasWayland},
+    {"offscreen", [] { return false; }},
+    {"minimal", [] { return false; }},
+};
+
+bool HasDisplayOn(std::string_view platform) {
+    for (const Platform& known : kPlatforms) {
+        if (platform.starts_with(known.name)) {
+            return known.hasDisplay();
+        }
+    }
+    // One that draws without a display server.
+    return !platform.empty();
+}
+
 }
 
 bool HasDisplay() {
-    const std::string platform = Environment("QT_QPA_PLATFORM");
-    if (!platform.empty()) {
-        return !platform.starts_with("offscreen") && !platform.starts_with("minimal");
+    const std::string platforms = Environment("QT_QPA_PLATFORM");
+    if (platforms.empty()) {
+        return HasX11() || HasWayland();
     }
-    return HasX11() || HasWayland();
+    // The toolkit takes the first of a list that works.
+    for (const auto name : std::views::split(platforms, ';')) {
+        if (HasDisplayOn(std::string_view(name.begin(), name.end()))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }
