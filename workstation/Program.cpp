@@ -16,7 +16,9 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <exception>
 #include <filesystem>
+#include <new>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -29,7 +31,10 @@ namespace {
 using Path = std::filesystem::path;
 
 constexpr int kDone = 0;
+constexpr int kFailed = 1;
 constexpr int kRefused = 2;
+
+void WriteError(const char* reason) { std::fprintf(stderr, "krx8-workstation: %s\n", reason); }
 
 /// Ends the program with one line on stderr.
 struct Refusal {
@@ -46,7 +51,13 @@ Options ReadCommandLine(int argc, char** argv) {
 
 // So that a folder given in one way is found again in a listing.
 Path Normal(const Path& path) {
-    const Path normal = std::filesystem::absolute(path).lexically_normal();
+    std::error_code error;
+    // Fails where the working directory is gone.
+    const Path normal = std::filesystem::absolute(path, error).lexically_normal();
+    if (error) {
+        throw Refusal{simulator::EscapeForMessage(path.string()) +
+                      ": has no absolute path: " + error.message()};
+    }
     return normal.has_filename() ? normal : normal.parent_path();
 }
 
@@ -86,7 +97,7 @@ void WritePicture(QWidget& window, const Path& file) {
     QSaveFile picture(QString::fromStdString(file.string()));
     if (!picture.open(QIODevice::WriteOnly) || !window.grab().save(&picture, "PNG") ||
         !picture.commit()) {
-        throw Refusal{file.string() +
+        throw Refusal{simulator::EscapeForMessage(file.string()) +
                       ": cannot be written: " + picture.errorString().toStdString()};
     }
 }
@@ -167,15 +178,31 @@ int Run(int argc, char** argv) {
     return RunWindow(argc, argv, options, start);
 }
 
-}
-
-int RunProgram(int argc, char** argv) {
+int RunRefusing(int argc, char** argv) {
     try {
         return Run(argc, argv);
     } catch (const Refusal& refusal) {
-        std::fprintf(stderr, "krx8-workstation: %s\n", refusal.reason.c_str());
+        WriteError(refusal.reason.c_str());
         return kRefused;
     }
+}
+
+}
+
+int RunProgram(int argc, char** argv) {
+    return RunReporting([&] { return RunRefusing(argc, argv); });
+}
+
+int RunReporting(const std::function<int()>& program) {
+    try {
+        return program();
+    } catch (const std::bad_alloc&) {
+        // Nothing that would need memory.
+        WriteError("out of memory");
+    } catch (const std::exception& exception) {
+        WriteError(simulator::EscapeForMessage(exception.what()).c_str());
+    }
+    return kFailed;
 }
 
 }

@@ -30,6 +30,9 @@ protected:
         if (!m_display.isEmpty()) {
             environment.insert("DISPLAY", m_display);
         }
+        if (!m_platform.isEmpty()) {
+            environment.insert("QT_QPA_PLATFORM", m_platform);
+        }
         process.setProcessEnvironment(environment);
         process.start(program, arguments);
         EXPECT_TRUE(process.waitForFinished(60'000)) << "it hangs";
@@ -66,4 +69,5 @@ protected:
 
     QTemporaryDir m_folder;
     QString m_display; ///< none unless a test says so
+    QString m_platform;
 };

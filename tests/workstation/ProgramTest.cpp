@@ -1,3 +1,5 @@
+#include "workstation/Program.h"
+
 #include "tests/workstation/ProgramRun.h"
 
 #include <gmock/gmock.h>
@@ -7,6 +9,8 @@
 #include <QFile>
 #include <QImage>
 
+#include <new>
+#include <stdexcept>
 #include <string>
 
 namespace {
@@ -15,6 +19,26 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 class ProgramTest : public ProgramRun {};
+
+TEST(RunReportingTest, StatusOfAProgramThatEndsIsItsOwn) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(workstation::RunReporting([] { return 7; }), 7);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(RunReportingTest, ExceptionBecomesOneLineAndStatusOne) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(workstation::RunReporting(
+                  []() -> int { throw std::runtime_error("the disk\nis on fire"); }),
+              1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "krx8-workstation: the disk\\nis on fire\n");
+}
+
+TEST(RunReportingTest, LackOfMemoryBecomesOneLineAndStatusOne) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(workstation::RunReporting([]() -> int { throw std::bad_alloc(); }), 1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "krx8-workstation: out of memory\n");
+}
 
 TEST_F(ProgramTest, UnknownOptionIsRefused) {
     ExpectRefusal({"--colour"}, "unknown option '--colour'; --help lists the options");
@@ -148,6 +172,26 @@ TEST_F(ProgramTest, DisplayThatDoesNotAnswerCountsAsNone) {
     EXPECT_THAT(outcome.output,
                 StartsWith("There is no display: the panel follows as text.\nKRX-20 Info\n"));
     EXPECT_EQ(FolderContents(), QStringList()) << "no picture without a place for it";
+}
+
+TEST_F(ProgramTest, PlatformWithoutItsDisplayCountsAsNone) {
+    m_platform = "xcb";
+    const Outcome outcome = Run({"--device", Sample("krx-20")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_THAT(outcome.output,
+                StartsWith("There is no display: the panel follows as text.\nKRX-20 Info\n"));
+}
+
+TEST_F(ProgramTest, FolderWithoutAnAbsolutePathIsRefused) {
+    const QString command =
+        QString("mkdir gone && cd gone && rmdir ../gone && '%1' --devices . --text")
+            .arg(KRX8_WORKSTATION);
+    const Outcome outcome = Run({"-c", command}, "/bin/sh");
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors,
+              "krx8-workstation: .: has no absolute path: No such file or directory\n");
 }
 
 TEST_F(ProgramTest, TextThatCannotBePrintedIsRefused) {
