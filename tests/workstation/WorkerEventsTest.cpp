@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QTimer>
 
 namespace {
 
@@ -61,7 +60,7 @@ TEST_F(WorkerEventsTest, EventBeforeTheWaitNeedsNoOtherToBeHeard) {
 
 TEST_F(WorkerEventsTest, HundredEventsOfALongCallAreAllHeard) {
     std::promise<void> release;
-    QTimer::singleShot(50, [&] { release.set_value(); });
+    OnceACallLasts([&] { release.set_value(); });
     auto released = release.get_future();
     EXPECT_EQ(Call([&] {
                   for (int i = 0; i < 100; ++i) {

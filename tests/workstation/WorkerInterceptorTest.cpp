@@ -53,7 +53,7 @@ TEST_F(WorkerInterceptorTest, ShortCallHandlesNoEvents) {
 
 TEST_F(WorkerInterceptorTest, LongCallIsReportedAndHandlesEvents) {
     std::promise<void> release;
-    QTimer::singleShot(30, [&] { release.set_value(); });
+    OnceACallLasts([&] { release.set_value(); });
     EXPECT_EQ(CallUntil(release.get_future()), kSuccess);
     EXPECT_THAT(m_observer.m_lasting, ElementsAre("HardwareInfo.GetSerialNumber"));
     EXPECT_THAT(m_observer.m_returned, ElementsAre("HardwareInfo.GetSerialNumber"));

@@ -4,11 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QTimer>
+
 #include <chrono>
 #include <functional>
 #include <future>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 inline constexpr interception::Operation kQuery{"HardwareInfo.GetSerialNumber",
@@ -20,6 +23,9 @@ class CountingObserver : public workstation::ICallObserver {
 public:
     void CallLasts(const interception::Operation& operation) override {
         m_lasting.emplace_back(operation.name);
+        if (m_onLasting) {
+            std::exchange(m_onLasting, {})();
+        }
     }
     void CallReturned(const interception::Operation& operation) override {
         m_returned.emplace_back(operation.name);
@@ -27,6 +33,7 @@ public:
 
     std::vector<std::string> m_lasting;
     std::vector<std::string> m_returned;
+    std::function<void()> m_onLasting; ///< runs once
 };
 
 /// Makes device calls through a worker, and raises events from inside them.
@@ -45,6 +52,12 @@ protected:
             m_heard.push_back(name);
             return contract::kSuccess;
         };
+    }
+
+    /// Has the event loop of the next call that lasts do something. A call shorter than that is not
+    /// what the test is about, and gets no event loop.
+    void OnceACallLasts(std::function<void()> action) {
+        m_observer.m_onLasting = [action = std::move(action)] { QTimer::singleShot(0, action); };
     }
 
     /// A device call that lasts until the user-interface thread has done something.

@@ -69,7 +69,7 @@ TEST_F(WorkerWindowTest, InputDuringALongCallIsDiscarded) {
     Canvas canvas;
     canvas.show();
     std::promise<void> release;
-    QTimer::singleShot(30, [&] {
+    OnceACallLasts([&] {
         QCoreApplication::postEvent(&canvas,
                                     new QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier));
         QKeyEvent direct(QEvent::KeyPress, Qt::Key_B, Qt::NoModifier);
@@ -106,8 +106,18 @@ TEST_F(WorkerWindowTest, BoxOpenedByAHandlerGetsItsInput) {
 
 TEST_F(WorkerWindowTest, ApplicationExitDoesNotEndALongCall) {
     std::promise<void> release;
-    QTimer::singleShot(25, [] { QCoreApplication::exit(3); });
-    QTimer::singleShot(60, [&] { release.set_value(); });
+    // Several rounds of events after the exit, each of which it could have ended.
+    QTimer rounds;
+    QObject::connect(&rounds, &QTimer::timeout, [&, round = 0]() mutable {
+        if (++round == 3) {
+            rounds.stop();
+            release.set_value();
+        }
+    });
+    OnceACallLasts([&] {
+        QCoreApplication::exit(3);
+        rounds.start(0);
+    });
     bool hasEnded = false;
     auto released = release.get_future();
     EXPECT_EQ(Call([&] {
