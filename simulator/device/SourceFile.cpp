@@ -27,7 +27,15 @@ std::string QuotedPath(const Path& path) {
     return IsUtf8(path.string()) ? QuoteForMessage(path.string()) : "a file";
 }
 
+Failure FailAsMissing(const Path& path) {
+    return {kFileNotFound, "There is no file " + QuotedPath(path)};
+}
+
 Failure FailToRead(const Path& path, const std::error_code& error) {
+    // A file may go at any moment, not only before it is looked for.
+    if (error == std::errc::no_such_file_or_directory) {
+        return FailAsMissing(path);
+    }
     const bool isDenied = error == std::errc::permission_denied;
     return {isDenied ? kAccessDenied : kReadFault,
             QuotedPath(path) + " cannot be read: " + error.message()};
@@ -50,7 +58,7 @@ Outcome ExpectPlainFile(const Path& path) {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
     if (status.type() == std::filesystem::file_type::not_found) {
-        return Failure{kFileNotFound, "There is no file " + QuotedPath(path)};
+        return FailAsMissing(path);
     }
     if (error) {
         return FailToRead(path, error);

@@ -124,6 +124,14 @@ TEST_F(CodeUploadTest, MissingFileIsRefusedBeforeMaintenance) {
     ExpectRefused(UploadFpga("C:\\gone.bin"), 0x80070002, "There is no file \"C:/gone.bin\"");
 }
 
+TEST_F(CodeUploadTest, FileThatVanishesBeforeItIsReadIsMissing) {
+    Connect(DeviceWithCode(kKrx8));
+    const auto path = WorkstationFile("a.bin", "x");
+    m_log->onEvent = [&] { std::filesystem::remove(path); };
+    ExpectFailure(UploadFpga(path), 0x80070002, "There is no file \"" + path + "\"");
+    EXPECT_EQ(m_log->events, (Events{"mode 3", "mode 1"}));
+}
+
 TEST_F(CodeUploadTest, FailureOnTheWayReturnsToTheModeBefore) {
     auto description = DeviceWithCode(kKrx8);
     description.mode = kServiceMode;

@@ -2,12 +2,12 @@
 #include "simulator/device/FileOperations.h"
 #include "tests/simulator/DeviceFolderFixture.h"
 
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <random>
 #include <set>
 #include <sys/wait.h>
-#include <time.h>
 #include <unistd.h>
 
 namespace simulator {
@@ -17,6 +17,7 @@ namespace fs = std::filesystem;
 
 constexpr int kKills = 200;
 constexpr int kGenerations = 5;
+constexpr int kSteps = 5;
 
 /// Kills a process that writes a device, at random moments, and looks at what it left.
 class KillTest : public DeviceFolderFixture {
@@ -24,7 +25,7 @@ protected:
     /// Each generation of a file is of one letter and one length, so that a mixture would show.
     static std::string BytesOf(const std::string& name, int generation) {
         const auto letter = static_cast<char>('a' + generation);
-        return name + " " + std::to_string(generation) + "\n" +
+        return name + " " + std::to_string(generation) + " id=10\n" +
                std::string(20000 + 3000 * static_cast<std::size_t>(generation), letter);
     }
     static std::string WorkstationPath(const fs::path& root, const std::string& name,
@@ -33,7 +34,8 @@ protected:
     }
 
     void SetUp() override {
-        Describe(Replaced(Replaced(kGoodDescription, "4096", "1000000"), "1024", "1000000"));
+        Describe(Replaced(Replaced(kGoodDescription, "4096", "1000000"), "\"mode\"",
+                          "\"pcCard\": { \"totalBytes\": 1000000 }, \"mode\""));
         for (int generation = 0; generation < kGenerations; ++generation) {
             for (const auto* name : kNames) {
                 m_workstation.Write(std::to_string(generation) + "/" + name,
@@ -42,40 +44,59 @@ protected:
         }
     }
 
-    /// What the child does until it is killed: uploads of every generation, moves, deletions.
-    [[noreturn]] static void WriteForEver(const fs::path& device, const fs::path& workstation,
-                                          int firstRound) {
-        auto opened = OpenDevice(device);
-        auto* pointer = std::get_if<std::shared_ptr<CDevice>>(&opened);
-        for (int round = firstRound; pointer; ++round) {
-            auto& target = **pointer;
-            std::int32_t result = 0;
-            for (const auto* name : kNames) {
-                const auto path = WorkstationPath(workstation, name, round % kGenerations);
-                static_cast<void>(UploadPhoneFile(target, path, 2, 1, result));
-            }
-            static_cast<void>(MoveFile(target, 0, 1, 2, 0));
-            static_cast<void>(DeleteFile(target, round % 7 == 6 ? 0 : 19, round % 7 == 6 ? 0 : 1));
+    /// One of the operations that go round: an upload of each file, a move, a deletion. The last
+    /// two may find nothing to do; an upload that fails would be a fault.
+    static bool Write(CDevice& device, const fs::path& workstation, int step) {
+        const auto round = step / kSteps;
+        std::int32_t result = 0;
+        switch (step % kSteps) {
+        case 3:
+            static_cast<void>(MoveFile(device, 22, 10, 3, 0));
+            return true;
+        case 4:
+            static_cast<void>(round % 3 == 2 ? DeleteFile(device, 0, 0)
+                                             : DeleteFile(device, 19, 10));
+            return true;
+        default:
+            const auto path =
+                WorkstationPath(workstation, kNames[step % kSteps], round % kGenerations);
+            return !UploadPhoneFile(device, path, 2, 1, result);
+        }
+    }
+
+    /// What the child does until it is killed. It writes one byte for each operation.
+    [[noreturn]] static void WriteForEver(const fs::path& folder, const fs::path& workstation,
+                                          int step, int progress) {
+        auto opened = OpenDevice(folder);
+        const auto* device = std::get_if<std::shared_ptr<CDevice>>(&opened);
+        while (device && Write(**device, workstation, step) && write(progress, "+", 1) == 1) {
+            ++step;
         }
         _exit(1);
     }
 
-    void KillOneWriter(std::chrono::microseconds life, int firstRound) {
+    /// Kills a writer some time into the operation that follows so many of it.
+    void KillOneWriter(int operations, std::chrono::microseconds life, int firstStep) {
+        std::array<int, 2> progress{};
+        ASSERT_EQ(pipe(progress.data()), 0);
         const auto child = fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
-            WriteForEver(m_folder.Path(), m_workstation.Path(), firstRound);
+            WriteForEver(m_folder.Path(), m_workstation.Path(), firstStep, progress[1]);
+        }
+        close(progress[1]);
+        for (char byte = 0; operations > 0; --operations) {
+            EXPECT_EQ(read(progress[0], &byte, 1), 1) << "The writer failed";
         }
         // The moment of the kill is what is tested, so that the clock is asked and no condition.
         const auto end = std::chrono::steady_clock::now() + life;
         while (std::chrono::steady_clock::now() < end) {
-            const timespec pause{0, 20000};
-            nanosleep(&pause, nullptr);
         }
-        ASSERT_EQ(kill(child, SIGKILL), 0);
+        EXPECT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status)) << "The writer ended by itself";
+        EXPECT_EQ(waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFSIGNALED(status)) << "The writer ended by itself";
+        close(progress[0]);
     }
 
     /// Whatever generation a file is of, it is that one as a whole: bytes, size and version.
@@ -101,9 +122,11 @@ TEST_F(KillTest, KilledWriterLeavesEveryFileAsBeforeOrAfter) {
     RecordProperty("seed", std::to_string(seed));
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
-    std::uniform_int_distribution<int> lifeUs(300, 30000);
+    std::uniform_int_distribution<int> operations(0, 2);
+    std::uniform_int_distribution<int> step(0, kSteps * kGenerations * 3 - 1);
+    std::uniform_int_distribution<int> lifeUs(0, 5000);
     for (int kills = 0; kills < kKills; ++kills) {
-        KillOneWriter(std::chrono::microseconds(lifeUs(random)), kills);
+        KillOneWriter(operations(random), std::chrono::microseconds(lifeUs(random)), step(random));
         auto opened = OpenDevice(m_folder.Path());
         if (const auto* error = std::get_if<DescriptionError>(&opened)) {
             FAIL() << "after kill " << kills << ": " << error->Message();
@@ -113,7 +136,7 @@ TEST_F(KillTest, KilledWriterLeavesEveryFileAsBeforeOrAfter) {
         }
     }
     // Writers that never got anywhere would prove nothing.
-    EXPECT_GT(m_seen.size(), 5u);
+    EXPECT_GT(m_seen.size(), 10u);
 }
 
 }
