@@ -10,7 +10,8 @@ copy_samples() {
     mkdir -p "$2" "$3" || fail 1 "cannot make the folders $2 and $3"
     for sample in "$1"/*/; do
         name=$(basename "$sample")
-        copy_sample "${sample%/}" "$2/$name" "$3/$name" || fail 1 "cannot copy the sample $name to $2"
+        copy_sample "${sample%/}" "$2/$name" "$3/$name" ||
+            fail 1 "cannot copy the sample $name to $2"
     done
 }
 
@@ -20,7 +21,7 @@ copy_sample() { # SAMPLE COPY RECORD
         say "copying the sample $(basename "$1")"
         place "$1" "$2" "$3.new" || return
     elif ! is_same "$1" "$2"; then
-        say "$(basename "$1"): you have changed your copy, so it stays;" \
+        say "$(basename "$1"): your copy may hold your changes, so it stays;" \
             "delete ${2#"$root/"} to get the newer sample"
     fi
     # Last, so that a start that is cut off before it compares anew.

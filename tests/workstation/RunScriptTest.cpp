@@ -100,7 +100,7 @@ TEST_F(SampleCopiesTest, NewerSampleLeavesAChangedCopyAndSaysSoOnce) {
     ChangeCopy("krx-20");
     CopyOf(Path("copies"), Path("before"));
     ChangeSample();
-    EXPECT_EQ(Start().errors, "run: krx-20: you have changed your copy, so it stays; delete "
+    EXPECT_EQ(Start().errors, "run: krx-20: your copy may hold your changes, so it stays; delete "
                               "copies/krx-20 to get the newer sample\n");
     EXPECT_TRUE(AreSame("before", "copies"));
     EXPECT_EQ(Start().errors, "");
@@ -121,7 +121,7 @@ TEST_F(SampleCopiesTest, CopyWithoutARecordCountsAsChanged) {
     Start();
     ChangeCopy("krx-8");
     ASSERT_TRUE(QDir(Path("records")).removeRecursively());
-    EXPECT_EQ(Start().errors, "run: krx-8: you have changed your copy, so it stays; delete "
+    EXPECT_EQ(Start().errors, "run: krx-8: your copy may hold your changes, so it stays; delete "
                               "copies/krx-8 to get the newer sample\n");
 }
 
