@@ -14,7 +14,9 @@ declare -A reaches=(
     [panel]="contract panel"
     [frontend/common]="frontend/common"
     [frontend/headless]="contract panel frontend/common frontend/headless"
-    [frontend/qt]="contract panel frontend/common frontend/qt"
+    [frontend/help]="frontend/help"
+    [frontend/registry]="contract panel frontend/registry"
+    [frontend/qt]="contract panel frontend/common frontend/help frontend/registry frontend/qt"
     [workstation]="contract interception simulator panel frontend/headless frontend/qt workstation"
 )
 
@@ -25,6 +27,8 @@ declare -A libraries=(
     [interception]=""
     [frontend/common]=""
     [frontend/headless]=""
+    [frontend/help]=""
+    [frontend/registry]="nlohmann/json.hpp nlohmann/json_fwd.hpp fcntl.h sys/file.h sys/stat.h sys/types.h unistd.h"
     [simulator]="nlohmann/json.hpp nlohmann/json_fwd.hpp ini.h dirent.h fcntl.h sys/file.h sys/stat.h sys/types.h unistd.h"
 )
 

@@ -7,7 +7,8 @@ trap 'rm -rf "$tree"' EXIT
 
 failures=0
 expect() { # EXPECTED-STATUS FOLDER INCLUDE
-    mkdir -p "$tree"/{contract,interception,simulator,panel/control,frontend/common,frontend/headless,frontend/qt,workstation}
+    mkdir -p "$tree"/{contract,interception,simulator,panel/control,workstation} \
+        "$tree"/frontend/{common,headless,help,registry,qt}
     printf '#pragma once\n\n#include %s\n' "$3" >"$tree/$2/Probe.h"
     local output status
     output=$("$check" "$tree")
@@ -27,6 +28,10 @@ expect 0 panel/control '"contract/panel/Panel.h"'
 expect 0 frontend/headless '"frontend/common/PackedRows.h"'
 expect 0 frontend/qt '"frontend/common/PackedRows.h"'
 expect 0 frontend/qt '<QWidget>'
+expect 0 frontend/qt '"frontend/registry/FileRegistry.h"'
+expect 0 frontend/qt '"frontend/help/HelpFile.h"'
+expect 0 frontend/registry '<nlohmann/json.hpp>'
+expect 0 frontend/registry '"panel/control/Registry.h"'
 expect 0 workstation '"frontend/qt/QtPanel.h"'
 
 expect 1 contract '"panel/control/View.h"'
@@ -45,6 +50,11 @@ expect 1 frontend/common '"frontend/headless/HeadlessList.h"'
 expect 1 frontend/common '<QString>'
 expect 1 frontend/headless '"frontend/qt/QtView.h"'
 expect 1 frontend/headless '<QWidget>'
+expect 1 frontend/registry '"frontend/qt/QtView.h"'
+expect 1 frontend/registry '<QString>'
+expect 1 frontend/help '<QString>'
+expect 1 frontend/help '"panel/control/View.h"'
+expect 1 frontend/headless '"frontend/registry/FileRegistry.h"'
 expect 1 frontend/qt '"frontend/headless/HeadlessView.h"'
 expect 1 frontend/qt '"simulator/Host.h"'
 expect 1 workstation '"tests/frontend/conformance/FrontEndDriver.h"'
