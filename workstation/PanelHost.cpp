@@ -10,6 +10,7 @@
 #include "contract/host/SubsystemAccess.h"
 #include "interception/InterceptorChain.h"
 #include "workstation/EventWatch.h"
+#include "workstation/MessageService.h"
 
 #include <QApplication>
 #include <QThread>
@@ -89,6 +90,7 @@ CPanelHost::~CPanelHost() {
 }
 
 void CPanelHost::CreateView(QWidget& parent) {
+    m_host.SetMessageService(std::make_shared<CMessageService>(parent));
     // A panel that cannot register or make a view shows none; there is nothing to do about it here.
     static_cast<void>(m_panel->SetContextAndRegister(m_host.Context()));
     static_cast<void>(m_panel->CreateView(&parent));

@@ -6,8 +6,10 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
+#include <QStringList>
 #include <QTimer>
 
 #include <utility>
@@ -16,12 +18,31 @@ namespace workstation {
 
 namespace {
 
-std::string Describe(const QMessageBox& box, const QAbstractButton& answer) {
-    std::string text = "Box \"" + box.windowTitle().toStdString() + "\":\n";
-    for (const QString& line : box.text().split('\n')) {
+std::string Describe(const QString& title, const QStringList& lines, const std::string& answer) {
+    std::string text = "Box \"" + title.toStdString() + "\":\n";
+    for (const QString& line : lines) {
         text += "    " + line.trimmed().toStdString() + "\n";
     }
-    return text + "Answered: " + WithoutMnemonic(answer.text()) + "\n";
+    return text + "Answered: " + answer + "\n";
+}
+
+QStringList LinesOf(const QMessageBox& box) {
+    QStringList lines = box.text().split('\n');
+    if (!box.detailedText().isEmpty()) {
+        lines += box.detailedText().split('\n');
+    }
+    return lines;
+}
+
+// What a dialog says, without what it only asks to be filled in.
+QStringList LinesOf(const QDialog& dialog) {
+    QStringList lines;
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+        if (label->isVisible() && !label->text().isEmpty()) {
+            lines += label->text();
+        }
+    }
+    return lines;
 }
 
 }
@@ -48,6 +69,7 @@ void CPromptAnswerer::Answer(QWidget& window) {
     if (auto* const box = qobject_cast<QMessageBox*>(&window)) {
         AnswerBox(*box);
     } else if (auto* const dialog = qobject_cast<QDialog*>(&window)) {
+        m_tell(Describe(dialog->windowTitle(), LinesOf(*dialog), "closed"));
         dialog->reject();
     } else {
         window.close();
@@ -57,11 +79,12 @@ void CPromptAnswerer::Answer(QWidget& window) {
 void CPromptAnswerer::AnswerBox(QMessageBox& box) {
     for (const auto choice : {QMessageBox::No, QMessageBox::Ok}) {
         if (QAbstractButton* const button = box.button(choice)) {
-            m_tell(Describe(box, *button));
+            m_tell(Describe(box.windowTitle(), LinesOf(box), WithoutMnemonic(button->text())));
             button->click();
             return;
         }
     }
+    m_tell(Describe(box.windowTitle(), LinesOf(box), "closed"));
     box.reject();
 }
 

@@ -10,9 +10,9 @@ class QWidget;
 
 namespace workstation {
 
-/// Stands in for the user of a program that has none: while it lives, every message box is told and
-/// answered with No or OK, and any other window but the main one is closed, so that nothing waits
-/// for ever. User-interface thread only.
+/// Stands in for the user of a program that has none: while it lives, every message box and dialog
+/// is told and answered with No or OK, or closed where it has neither, and so is any other window
+/// but the main one, so that nothing waits for ever. User-interface thread only.
 class CPromptAnswerer : public QObject {
 public:
     /// Takes the text of a box: caption, lines and answer, each line ended.

@@ -17,7 +17,7 @@ constexpr bool IsListKind(panel::ControlKind kind) {
 
 constexpr bool HasMnemonic(panel::ControlKind kind) {
     return kind == GroupBox || kind == Label || kind == CentredLabel || kind == Button ||
-           kind == DefaultButton;
+           kind == DefaultButton || kind == CheckBox;
 }
 
 constexpr char ToLower(char letter) {
@@ -49,7 +49,13 @@ HeadlessControl::HeadlessControl(const panel::ControlTemplate& controlTemplate,
 bool HeadlessControl::IsButton() const { return kind == Button || kind == DefaultButton; }
 
 bool HeadlessControl::CanHaveFocus() const {
-    return IsButton() || IsLog() || list || kind == TextField || kind == NumberField;
+    return IsButton() || IsLog() || list || kind == TextField || kind == NumberField ||
+           kind == EditField || IsAddressField() || IsCheckBox() || IsDropDownList();
+}
+
+bool HeadlessControl::HasText() const {
+    return !IsLog() && !list && !IsAddressField() && !IsDropDownList() && kind != Icon &&
+           kind != ProgressBar;
 }
 
 void HeadlessControl::Move(const panel::Rectangle& target) {
@@ -59,9 +65,12 @@ void HeadlessControl::Move(const panel::Rectangle& target) {
         list->SetPageSize(PageSize());
 }
 
+panel::Point HeadlessControl::RowPosition(int row) const {
+    return {0, kHeadingHeight + list->RowOffset(row) * kRowHeight};
+}
+
 panel::Rectangle HeadlessControl::RowRectangle(int row) const {
-    return {rectangle.x, rectangle.y + kHeadingHeight + list->RowOffset(row) * kRowHeight,
-            rectangle.width, kRowHeight};
+    return {rectangle.x, rectangle.y + RowPosition(row).y, rectangle.width, kRowHeight};
 }
 
 int HeadlessControl::PageSize() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frontend/headless/MemoryRegistry.h"
 #include "frontend/headless/PromptQueue.h"
 #include "frontend/headless/WindowStack.h"
 #include "panel/control/Toolkit.h"
@@ -26,6 +27,8 @@ struct HeadlessDesktop {
 
     /// How many views are still to be refused: CreateView then returns null.
     int failingViews = 0;
+    /// What SetIcon fails with in views made from now on; 0: it does not.
+    int iconError = 0;
 
     /// Wait cursors pushed and not yet popped, and the most there ever were. A depth below 0 tells
     /// of a PopCursor too many.
@@ -34,6 +37,9 @@ struct HeadlessDesktop {
 
     std::string componentFolder = "component";
     std::vector<ShownHelp> helps;
+    CMemoryRegistry registry;
+    panel::LocalTime now{"20.11.2026", "14:05"};
+    char pathSeparator = '\\';
     /// Without their newline.
     std::vector<std::string> traceLines;
 };

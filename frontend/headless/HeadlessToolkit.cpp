@@ -1,5 +1,7 @@
 #include "frontend/headless/HeadlessToolkit.h"
 
+#include "frontend/headless/HeadlessFileDialog.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -8,6 +10,20 @@ namespace headless {
 namespace {
 
 constexpr panel::FontMetrics kFont{.alphabetWidth = 364, .height = 13};
+
+class CHeadlessMenu final : public panel::IPopupMenu {
+public:
+    explicit CHeadlessMenu(std::shared_ptr<HeadlessDesktop> desktop)
+        : m_desktop(std::move(desktop)) {}
+
+    int Show(std::span<const panel::MenuItem> items, panel::Point screen) override {
+        const std::shared_ptr<HeadlessDesktop> desktop = m_desktop;
+        return desktop->prompts.ShowMenu(items, screen, desktop->windows);
+    }
+
+private:
+    std::shared_ptr<HeadlessDesktop> m_desktop;
+};
 
 // The part of the desktop that a view needs, kept alive with the whole.
 std::shared_ptr<CWindowStack> WindowsOf(const std::shared_ptr<HeadlessDesktop>& desktop) {
@@ -42,6 +58,7 @@ panel::DialogOutcome CHeadlessToolkit::RunDialog(const panel::DialogTemplate& di
     if (const auto failure = desktop->prompts.TakeDialogFailure(dialogTemplate.id, owner))
         return panel::DialogOutcome::Failed(*failure);
     CHeadlessView view(dialogTemplate, kFont, handler, WindowsOf(desktop), ViewKind::Dialog);
+    view.FailIcons(desktop->iconError);
     handler.OnInit(view);
     return panel::DialogOutcome::Closed(desktop->prompts.ActInDialog(view, owner));
 }
@@ -50,6 +67,37 @@ std::int32_t CHeadlessToolkit::ShowBox(const std::string& text, const std::strin
                                        std::uint32_t style) {
     const std::shared_ptr<HeadlessDesktop> desktop = m_desktop;
     return desktop->prompts.ShowBox(text, caption, style, desktop->windows);
+}
+
+std::unique_ptr<panel::IPopupMenu> CHeadlessToolkit::CreatePopupMenu(int& error) {
+    if (const auto failure = m_desktop->prompts.TakeMenuFailure()) {
+        error = *failure;
+        return nullptr;
+    }
+    return std::make_unique<CHeadlessMenu>(m_desktop);
+}
+
+panel::FileOutcome CHeadlessToolkit::OpenFile(const panel::FileDialog& dialog) {
+    return RunFileDialog(dialog, FileDialogKind::Open);
+}
+
+panel::FileOutcome CHeadlessToolkit::SaveFile(const panel::FileDialog& dialog) {
+    return RunFileDialog(dialog, FileDialogKind::Save);
+}
+
+panel::FileOutcome CHeadlessToolkit::RunFileDialog(const panel::FileDialog& dialog,
+                                                   FileDialogKind kind) {
+    const std::shared_ptr<HeadlessDesktop> desktop = m_desktop;
+    if (!dialog.optionsTemplate) {
+        const CWindowStack::BoxScope isOpen(desktop->windows);
+        CHeadlessFileDialog user(kind, dialog, nullptr);
+        return desktop->prompts.ActInFileDialog(user);
+    }
+    CHeadlessView options(*dialog.optionsTemplate, kFont, *dialog.optionsHandler,
+                          WindowsOf(desktop), ViewKind::Options);
+    dialog.optionsHandler->OnInit(options);
+    CHeadlessFileDialog user(kind, dialog, &options);
+    return desktop->prompts.ActInFileDialog(user);
 }
 
 void CHeadlessToolkit::PushWaitCursor() {

@@ -2,10 +2,13 @@
 
 #include "frontend/headless/HeadlessDesktop.h"
 #include "frontend/headless/HeadlessView.h"
+#include "panel/control/FileDialog.h"
+#include "panel/control/PopupMenu.h"
 #include "panel/control/Toolkit.h"
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 
 namespace headless {
@@ -28,6 +31,12 @@ public:
                                    panel::IDialogHandler& handler, panel::Owner owner) override;
     std::int32_t ShowBox(const std::string& text, const std::string& caption,
                          std::uint32_t style) override;
+    std::unique_ptr<panel::IPopupMenu> CreatePopupMenu(int& error) override;
+    panel::FileOutcome OpenFile(const panel::FileDialog& dialog) override;
+    panel::FileOutcome SaveFile(const panel::FileDialog& dialog) override;
+    char GetPathSeparator() const override { return m_desktop->pathSeparator; }
+    panel::LocalTime GetLocalTime() const override { return m_desktop->now; }
+    panel::IRegistry& Registry() override { return m_desktop->registry; }
     void PushWaitCursor() override;
     void PopCursor() override;
     void ShowHelp(const std::string& file, std::uint32_t context, panel::Owner owner) override;
@@ -36,6 +45,8 @@ public:
     void Trace(const std::string& line) override;
 
 private:
+    panel::FileOutcome RunFileDialog(const panel::FileDialog& dialog, FileDialogKind kind);
+
     std::shared_ptr<HeadlessDesktop> m_desktop;
 };
 

@@ -47,8 +47,9 @@ ControlId CHeadlessView::Capture(ControlId id) {
 
 void CHeadlessView::SetText(ControlId id, std::string_view text) {
     HeadlessControl* control = Find(id);
-    if (!control || control->IsLog() || control->list)
+    if (!control || !control->HasText()) {
         return;
+    }
     control->text = text;
     control->mnemonic = 0;
 }

@@ -10,13 +10,15 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace headless {
 
-enum class ViewKind { Panel, Dialog };
+/// Options are the controls of our own in a file dialog.
+enum class ViewKind { Panel, Dialog, Options };
 
 struct HeadlessProgress {
     int maximum = 0;
@@ -55,6 +57,7 @@ public:
     void SetSize(panel::Size size) override;
     panel::Rectangle GetRectangle(panel::ControlId id) const override;
     void Move(panel::ControlId id, const panel::Rectangle& rectangle) override;
+    panel::Point ToScreen(panel::ControlId id, panel::Point inControl) const override;
 
     void InsertColumn(panel::ControlId list, int index, const panel::ListColumn& column) override;
     int InsertRow(panel::ControlId list, int index, std::string_view text) override;
@@ -70,10 +73,25 @@ public:
     int GetSelectionMark(panel::ControlId list) const override;
     int GetFocusedRow(panel::ControlId list) const override;
     void EnsureRowVisible(panel::ControlId list, int row) override;
+    std::optional<panel::Point> GetRowPosition(panel::ControlId list, int row) const override;
+    panel::Size GetListClientSize(panel::ControlId list) const override;
 
     void SetTextLimit(panel::ControlId id, std::size_t characters) override;
     void AppendLog(panel::ControlId log, std::string_view text) override;
     void ClearLog(panel::ControlId log) override;
+
+    void SetChecked(panel::ControlId box, bool checked) override;
+    bool IsChecked(panel::ControlId box) const override;
+
+    void SetAddress(panel::ControlId field, std::uint32_t address) override;
+    std::uint32_t GetAddress(panel::ControlId field) const override;
+
+    int AddChoice(panel::ControlId list, std::string_view text, std::int32_t data) override;
+    void SelectChoice(panel::ControlId list, int index) override;
+    int GetSelectedChoice(panel::ControlId list) const override;
+    std::optional<std::int32_t> GetChoiceData(panel::ControlId list, int index) const override;
+
+    int SetIcon(panel::ControlId id, panel::StandardIcon icon) override;
 
     void SetProgressRange(panel::ControlId bar, int maximum) override;
     void SetProgressPosition(panel::ControlId bar, int position) override;
@@ -89,6 +107,13 @@ public:
     bool ClickRow(panel::ControlId list, int row, Modifier modifier = Modifier::None);
     /// kNoRow clicks the empty space below the rows.
     bool RightClick(panel::ControlId list, int row);
+    /// Toggles a check box.
+    bool Toggle(panel::ControlId box);
+    /// Replaces the text of an edit field, cut to its limit.
+    bool TypeText(panel::ControlId field, std::string_view text);
+    bool TypeAddress(panel::ControlId field, std::uint32_t address);
+    /// Chooses from a drop-down list by the text of the choice.
+    bool Choose(panel::ControlId list, std::string_view text);
     /// F1.
     void RequestHelp();
     void PressTab();
@@ -113,10 +138,20 @@ public:
     std::vector<HeadlessColumn> Columns(panel::ControlId list) const;
     bool IsRowInSight(panel::ControlId list, int row) const;
     panel::Rectangle ScreenRectangle(panel::ControlId id) const;
+    /// The texts of a drop-down list.
+    std::vector<std::string> Choices(panel::ControlId list) const;
+    std::optional<panel::StandardIcon> Icon(panel::ControlId id) const;
     /// The lines of the log, without their CR LF.
     std::vector<std::string> LogLines(panel::ControlId log) const;
     /// The result once EndDialog has been called.
     std::optional<int> DialogResult() const { return m_result; }
+
+    // What a system can refuse
+
+    /// From now on SetIcon fails with `error`.
+    void FailIcons(int error) { m_iconError = error; }
+    /// From now on the data of that list's choices cannot be read.
+    void LoseChoiceData(panel::ControlId list) { m_listsWithoutData.insert(list); }
 
 private:
     void Register(HeadlessControl& control);
@@ -127,6 +162,10 @@ private:
     }
     /// The control when the user can use it now, else null.
     HeadlessControl* FindUsable(panel::ControlId id);
+    /// The control when it is of that kind, else null.
+    const HeadlessControl* Find(panel::ControlId id, panel::ControlKind kind) const;
+    HeadlessControl* Find(panel::ControlId id, panel::ControlKind kind);
+    HeadlessControl* Enter(panel::ControlId id, panel::ControlKind kind);
     CHeadlessList* EnterList(panel::ControlId id);
     bool TakesInput() const;
     void DeliverPendingFocus(const HeadlessControl& control);
@@ -147,6 +186,8 @@ private:
     // Was given the focus while it could not take it.
     panel::ControlId m_pendingFocus = panel::kNoControl;
     std::optional<int> m_result;
+    int m_iconError = 0;
+    std::set<panel::ControlId> m_listsWithoutData;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
 

@@ -2,6 +2,7 @@
 
 #include "frontend/headless/HeadlessView.h"
 #include "frontend/headless/Utf8.h"
+#include "panel/control/Utf8.h"
 
 #include <algorithm>
 
@@ -14,7 +15,7 @@ namespace {
 // Where views lie on the screen; not at its origin, so that nobody mixes up the coordinates.
 constexpr panel::Point kScreenOrigin{200, 100};
 
-constexpr panel::Rectangle ToScreen(const panel::Rectangle& rectangle) {
+constexpr panel::Rectangle OnScreen(const panel::Rectangle& rectangle) {
     return {rectangle.x + kScreenOrigin.x, rectangle.y + kScreenOrigin.y, rectangle.width,
             rectangle.height};
 }
@@ -69,7 +70,49 @@ bool CHeadlessView::RightClick(ControlId list, int row) {
     target->RightClick(row);
     const HeadlessControl& control = *Find(list);
     const int clickedRow = row == panel::kNoRow ? target->GetRowCount() : row;
-    m_handler.OnListRightClick(list, CentreOf(ToScreen(control.RowRectangle(clickedRow))));
+    m_handler.OnListRightClick(list, CentreOf(OnScreen(control.RowRectangle(clickedRow))));
+    return true;
+}
+
+// The handler is called last, as above.
+bool CHeadlessView::Toggle(ControlId box) {
+    HeadlessControl* control = Enter(box, panel::ControlKind::CheckBox);
+    if (!control) {
+        return false;
+    }
+    control->isChecked = !control->isChecked;
+    m_handler.OnCommand(box);
+    return true;
+}
+
+bool CHeadlessView::TypeText(ControlId field, std::string_view text) {
+    HeadlessControl* control = Enter(field, panel::ControlKind::EditField);
+    if (!control) {
+        return false;
+    }
+    control->text = panel::CutToUtf16Units(text, control->textLimit);
+    return true;
+}
+
+bool CHeadlessView::TypeAddress(ControlId field, std::uint32_t address) {
+    HeadlessControl* control = Enter(field, panel::ControlKind::AddressField);
+    if (!control) {
+        return false;
+    }
+    control->address = address;
+    return true;
+}
+
+bool CHeadlessView::Choose(ControlId list, std::string_view text) {
+    HeadlessControl* control = Enter(list, panel::ControlKind::DropDownList);
+    if (!control) {
+        return false;
+    }
+    const auto choice = std::ranges::find(control->choices, text, &HeadlessChoice::text);
+    if (choice == control->choices.end()) {
+        return false;
+    }
+    control->selectedChoice = static_cast<int>(choice - control->choices.begin());
     return true;
 }
 
@@ -145,7 +188,27 @@ bool CHeadlessView::IsRowInSight(ControlId list, int row) const {
 
 panel::Rectangle CHeadlessView::ScreenRectangle(ControlId id) const {
     const HeadlessControl* control = Find(id);
-    return control ? ToScreen(control->rectangle) : panel::Rectangle{};
+    return control ? OnScreen(control->rectangle) : panel::Rectangle{};
+}
+
+panel::Point CHeadlessView::ToScreen(ControlId id, panel::Point inControl) const {
+    const panel::Rectangle place = ScreenRectangle(id);
+    return {place.x + inControl.x, place.y + inControl.y};
+}
+
+std::vector<std::string> CHeadlessView::Choices(ControlId list) const {
+    std::vector<std::string> texts;
+    if (const HeadlessControl* control = Find(list, panel::ControlKind::DropDownList)) {
+        for (const HeadlessChoice& choice : control->choices) {
+            texts.push_back(choice.text);
+        }
+    }
+    return texts;
+}
+
+std::optional<panel::StandardIcon> CHeadlessView::Icon(ControlId id) const {
+    const HeadlessControl* control = Find(id);
+    return control ? control->icon : std::nullopt;
 }
 
 std::vector<std::string> CHeadlessView::LogLines(ControlId log) const {
@@ -163,6 +226,15 @@ std::vector<std::string> CHeadlessView::LogLines(ControlId log) const {
 HeadlessControl* CHeadlessView::FindUsable(ControlId id) {
     HeadlessControl* control = Find(id);
     return TakesInput() && control && control->IsUsable() ? control : nullptr;
+}
+
+HeadlessControl* CHeadlessView::Enter(ControlId id, panel::ControlKind kind) {
+    HeadlessControl* control = FindUsable(id);
+    if (!control || control->kind != kind) {
+        return nullptr;
+    }
+    SetFocus(id);
+    return control;
 }
 
 CHeadlessList* CHeadlessView::EnterList(ControlId id) {

@@ -49,7 +49,8 @@ private:
             AddGroup(m_view.GetText(control.id));
         else if (control.kind == Label)
             m_label = m_view.GetText(control.id);
-        else if (control.kind == TextField || control.kind == NumberField)
+        else if (control.kind == TextField || control.kind == NumberField ||
+                 control.kind == EditField)
             m_picture.fields.push_back({std::exchange(m_label, {}), m_view.GetText(control.id)});
         else if (control.kind == Log)
             AddLog(control.id);

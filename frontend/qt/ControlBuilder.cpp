@@ -1,6 +1,8 @@
 #include "frontend/qt/ControlBuilder.h"
 
+#include "frontend/qt/AddressField.h"
 #include "frontend/qt/CommandEvent.h"
+#include "frontend/qt/EditField.h"
 #include "frontend/qt/Font.h"
 #include "frontend/qt/GroupBox.h"
 #include "frontend/qt/HelpRequests.h"
@@ -8,6 +10,8 @@
 #include "frontend/qt/LogView.h"
 #include "frontend/qt/Text.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -48,8 +52,9 @@ QWidget* BuildLabel(const ControlTemplate& control, const Surroundings& around) 
 }
 
 QWidget* BuildCentredLabel(const ControlTemplate& control, const Surroundings& around) {
-    QWidget* const label = BuildLabel(control, around);
-    static_cast<QLabel*>(label)->setAlignment(Qt::AlignCenter);
+    auto* const label = static_cast<QLabel*>(BuildLabel(control, around));
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
     return label;
 }
 
@@ -73,6 +78,34 @@ QWidget* BuildNumberField(const ControlTemplate& control, const Surroundings& ar
     const QRegularExpression digits(QStringLiteral("[0-9]*"));
     field->setValidator(new QRegularExpressionValidator(digits, field));
     return field;
+}
+
+QWidget* BuildEditField(const ControlTemplate& control, const Surroundings& around) {
+    auto* const field = new CEditField(around.view);
+    field->ShowText(ToQt(control.text));
+    return field;
+}
+
+QWidget* BuildAddressField(const ControlTemplate&, const Surroundings& around) {
+    return new CAddressField(around.view);
+}
+
+QWidget* BuildCheckBox(const ControlTemplate& control, const Surroundings& around) {
+    auto* const box = new QCheckBox(ToQt(control.text), around.view);
+    QObject::connect(box, &QCheckBox::clicked, [link = around.link, id = control.id] {
+        link->Notify(&panel::IDialogHandler::OnCommand, id);
+    });
+    return box;
+}
+
+QWidget* BuildDropDownList(const ControlTemplate&, const Surroundings& around) {
+    return new QComboBox(around.view);
+}
+
+QWidget* BuildIcon(const ControlTemplate&, const Surroundings& around) {
+    auto* const icon = new QLabel(around.view);
+    icon->setAlignment(Qt::AlignCenter);
+    return icon;
 }
 
 QWidget* BuildList(CListView::Selection selection, const ControlTemplate& control,
@@ -128,9 +161,10 @@ using Builder = QWidget* (*)(const ControlTemplate&, const Surroundings&);
 
 // In the order of ControlKind.
 constexpr Builder kBuilders[] = {
-    BuildGroupBox,    BuildLabel,           BuildCentredLabel,     BuildTextField,
-    BuildNumberField, BuildMultiSelectList, BuildSingleSelectList, BuildLog,
-    BuildProgressBar, BuildButton,          BuildDefaultButton,
+    BuildGroupBox,     BuildLabel,       BuildCentredLabel,    BuildTextField,
+    BuildNumberField,  BuildEditField,   BuildAddressField,    BuildCheckBox,
+    BuildDropDownList, BuildIcon,        BuildMultiSelectList, BuildSingleSelectList,
+    BuildLog,          BuildProgressBar, BuildButton,          BuildDefaultButton,
 };
 static_assert(std::size(kBuilders) == static_cast<std::size_t>(ControlKind::DefaultButton) + 1);
 

@@ -1,5 +1,6 @@
 #include "frontend/qt/ControlRelations.h"
 
+#include "frontend/qt/AddressField.h"
 #include "frontend/qt/Text.h"
 
 #include <QLabel>
@@ -49,6 +50,9 @@ bool TakesFocus(ControlKind kind) {
     switch (kind) {
     case ControlKind::TextField:
     case ControlKind::NumberField:
+    case ControlKind::EditField:
+    case ControlKind::AddressField:
+    case ControlKind::DropDownList:
     case ControlKind::MultiSelectList:
     case ControlKind::SingleSelectList:
     case ControlKind::Log:
@@ -74,6 +78,9 @@ void NameForAccessibility(const panel::DialogTemplate& dialogTemplate, const Con
         } else if (TakesFocus(controls[i].kind)) {
             const bool hasLabel = i > 0 && controls[i - 1].kind == ControlKind::Label;
             controls[i].widget->setAccessibleName(hasLabel ? QString() : title);
+            if (auto* const field = dynamic_cast<CAddressField*>(controls[i].widget)) {
+                field->NameParts(hasLabel ? ToQt(dialogTemplate.controls[i - 1].text) : title);
+            }
         }
     }
 }

@@ -1,12 +1,14 @@
 #include "frontend/qt/ControlText.h"
 
+#include "frontend/qt/EditField.h"
 #include "frontend/qt/Font.h"
 #include "frontend/qt/Text.h"
 
+#include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QStyle>
 #include <QTextDocument>
 
 namespace qt {
@@ -23,6 +25,12 @@ void FitText(QWidget& widget, const QString& text, int room) {
     widget.setFont(FitFont(widget.parentWidget()->font(), text, room));
 }
 
+// What the box itself takes of a check box's width.
+int IndicatorWidth(const QWidget& box) {
+    return box.style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &box) +
+           box.style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &box);
+}
+
 // A text too long even so can be read in a tool tip.
 void FitField(QWidget& field, const QString& text) {
     const int room = field.width() - kFieldMarginPixels;
@@ -34,8 +42,20 @@ void FitField(QWidget& field, const QString& text) {
 }
 
 bool HasText(ControlKind kind) {
-    return kind != ControlKind::MultiSelectList && kind != ControlKind::SingleSelectList &&
-           kind != ControlKind::Log && kind != ControlKind::ProgressBar;
+    switch (kind) {
+    case ControlKind::GroupBox:
+    case ControlKind::Label:
+    case ControlKind::CentredLabel:
+    case ControlKind::TextField:
+    case ControlKind::NumberField:
+    case ControlKind::EditField:
+    case ControlKind::CheckBox:
+    case ControlKind::Button:
+    case ControlKind::DefaultButton:
+        return true;
+    default:
+        return false;
+    }
 }
 
 void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
@@ -54,9 +74,13 @@ void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
         static_cast<QLineEdit&>(widget).setText(text);
         static_cast<QLineEdit&>(widget).setCursorPosition(0);
         break;
+    case ControlKind::EditField:
+        static_cast<CEditField&>(widget).ShowText(text);
+        break;
+    case ControlKind::CheckBox:
     case ControlKind::Button:
     case ControlKind::DefaultButton:
-        static_cast<QPushButton&>(widget).setText(WithoutMnemonic(text));
+        static_cast<QAbstractButton&>(widget).setText(WithoutMnemonic(text));
         break;
     default:
         break;
@@ -73,6 +97,9 @@ void FitText(QWidget& widget, ControlKind kind, const QString& text) {
     case ControlKind::Button:
     case ControlKind::DefaultButton:
         FitText(widget, text, widget.width() - kButtonMarginPixels);
+        break;
+    case ControlKind::CheckBox:
+        FitText(widget, text, widget.width() - IndicatorWidth(widget));
         break;
     default:
         break;

@@ -13,7 +13,7 @@ bool HasText(panel::ControlKind kind);
 /// Shows `text` in the widget of a control as it is, marking no mnemonic.
 void ShowText(QWidget& widget, panel::ControlKind kind, const QString& text);
 
-/// Condenses the font of a button or field whose text would not fit its size.
+/// Condenses the font of a button, check box or read-only field whose text would not fit its size.
 void FitText(QWidget& widget, panel::ControlKind kind, const QString& text);
 
 }

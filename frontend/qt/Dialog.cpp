@@ -21,8 +21,8 @@ CDialog::CDialog(const panel::DialogTemplate& dialogTemplate, panel::IDialogHand
 int CDialog::Run() {
     const QPointer<CDialog> self(this);
     m_handler.OnInit(m_view);
-    m_view.GetWidget()->show();
-    if (!m_result) {
+    if (self && !m_result) {
+        m_view.GetWidget()->show();
         exec();
     }
     return self && m_result ? *m_result : static_cast<int>(panel::kCancelButton);

@@ -5,21 +5,24 @@
 #include <cstdint>
 #include <string>
 
-class QPlainTextEdit;
-
 namespace qt {
 
-/// Shows a help file. Not modal; Escape closes it, and it can be shown again.
+class CHelpBrowser;
+
+/// Shows a help file (frontend/help/HelpFile.h), one topic at a time. Not modal; Escape closes it,
+/// and it can be shown again.
 class CHelpWindow final : public QDialog {
 public:
     CHelpWindow();
 
-    /// Shows `file` (UTF-8 text) at a topic, in front of `owner`, which may be null and otherwise
-    /// owns the window from then on. Says so in the window when there is no such file.
+    /// Shows a topic of `file`, in front of `owner`, which may be null and otherwise owns the
+    /// window from then on. Says so in the window when there is no such file or topic.
     void ShowTopic(const std::string& file, std::uint32_t context, QWidget* owner);
 
 private:
-    QPlainTextEdit* m_text;
+    QWidget* MakeWays();
+
+    CHelpBrowser* m_browser;
 };
 
 }

@@ -156,6 +156,22 @@ void CListView::EnsureRowVisible(int row) {
     }
 }
 
+std::optional<panel::Point> CListView::GetRowPosition(int row) {
+    if (!HasRow(row)) {
+        return std::nullopt;
+    }
+    BringUpToDate();
+    const QPoint inRows(columnViewportPosition(0), rowViewportPosition(row));
+    const QPoint place = viewport()->mapTo(this, inRows);
+    return panel::Point{place.x(), place.y()};
+}
+
+// From the corner that positions of rows are relative to, so with the frame above and to the left.
+panel::Size CListView::GetClientSize() const {
+    const QRect rows = viewport()->geometry();
+    return {rows.x() + rows.width(), rows.y() + rows.height()};
+}
+
 void CListView::paintEvent(QPaintEvent* event) {
     ApplySelection();
     BringUpToDate();

@@ -8,6 +8,7 @@
 #include <QTableView>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,8 @@ public:
     int GetSelectionMark() const { return m_mark.isValid() ? m_mark.row() : panel::kNoRow; }
     int GetFocusedRow() const;
     void EnsureRowVisible(int row);
+    std::optional<panel::Point> GetRowPosition(int row);
+    panel::Size GetClientSize() const;
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

@@ -3,14 +3,19 @@
 #include "frontend/qt/ArrowCursor.h"
 #include "frontend/qt/ComponentFolder.h"
 #include "frontend/qt/Dialog.h"
+#include "frontend/qt/FileDialog.h"
 #include "frontend/qt/Font.h"
 #include "frontend/qt/HelpWindow.h"
 #include "frontend/qt/MessageBox.h"
+#include "frontend/qt/PopupMenu.h"
 #include "frontend/qt/QtView.h"
+#include "frontend/qt/Text.h"
 #include "panel/control/DialogHandler.h"
 
 #include <QApplication>
 #include <QCursor>
+#include <QDateTime>
+#include <QLocale>
 #include <QWidget>
 
 #include <cstdio>
@@ -50,6 +55,25 @@ panel::DialogOutcome CQtToolkit::RunDialog(const panel::DialogTemplate& dialogTe
 std::int32_t CQtToolkit::ShowBox(const std::string& text, const std::string& caption,
                                  std::uint32_t style) {
     return ShowMessageBox(text, caption, style);
+}
+
+std::unique_ptr<panel::IPopupMenu> CQtToolkit::CreatePopupMenu(int&) {
+    return std::make_unique<CPopupMenu>(m_panelWidget);
+}
+
+panel::FileOutcome CQtToolkit::OpenFile(const panel::FileDialog& dialog) {
+    return RunFileDialog(dialog, CFileDialog::Kind::Open, FindOwner(dialog.owner));
+}
+
+panel::FileOutcome CQtToolkit::SaveFile(const panel::FileDialog& dialog) {
+    return RunFileDialog(dialog, CFileDialog::Kind::Save, FindOwner(dialog.owner));
+}
+
+panel::LocalTime CQtToolkit::GetLocalTime() const {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QLocale locale = QLocale::system();
+    return {FromQt(locale.toString(now.date(), QLocale::ShortFormat)),
+            FromQt(locale.toString(now.time(), QLocale::ShortFormat))};
 }
 
 void CQtToolkit::PushWaitCursor() {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "frontend/registry/FileRegistry.h"
+#include "panel/control/FileDialog.h"
+#include "panel/control/PopupMenu.h"
 #include "panel/control/Toolkit.h"
 #include "panel/control/View.h"
 
@@ -25,6 +28,14 @@ public:
                                    panel::IDialogHandler& handler, panel::Owner owner) override;
     std::int32_t ShowBox(const std::string& text, const std::string& caption,
                          std::uint32_t style) override;
+    /// Never fails.
+    std::unique_ptr<panel::IPopupMenu> CreatePopupMenu(int& error) override;
+    panel::FileOutcome OpenFile(const panel::FileDialog& dialog) override;
+    panel::FileOutcome SaveFile(const panel::FileDialog& dialog) override;
+    char GetPathSeparator() const override { return '/'; }
+    panel::LocalTime GetLocalTime() const override;
+    /// Kept in a file; which one is settled when the toolkit is made.
+    panel::IRegistry& Registry() override { return m_registry; }
     void PushWaitCursor() override;
     void PopCursor() override;
     /// One window, used again.
@@ -38,6 +49,8 @@ public:
 private:
     QWidget* FindOwner(panel::Owner owner) const;
 
+    registry::CFileRegistry m_registry{registry::FindRegistryFile(),
+                                       [this](const std::string& line) { Trace(line); }};
     QPointer<QWidget> m_panelWidget;
     QPointer<CHelpWindow> m_help;
     int m_waitCursors = 0;

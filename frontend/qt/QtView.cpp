@@ -3,6 +3,7 @@
 #include "frontend/qt/ControlBuilder.h"
 #include "frontend/qt/ControlRelations.h"
 #include "frontend/qt/ControlText.h"
+#include "frontend/qt/EditField.h"
 #include "frontend/qt/FocusMemory.h"
 #include "frontend/qt/Font.h"
 #include "frontend/qt/HandlerLink.h"
@@ -27,7 +28,8 @@ using panel::ControlKind;
 panel::Size SizeOf(const QWidget& widget) { return {widget.width(), widget.height()}; }
 
 bool HasMnemonic(ControlKind kind) {
-    return kind != ControlKind::TextField && kind != ControlKind::NumberField;
+    return kind != ControlKind::TextField && kind != ControlKind::NumberField &&
+           kind != ControlKind::EditField;
 }
 
 }
@@ -95,6 +97,9 @@ std::string CQtView::GetText(ControlId id) const {
     if (const CLogView* const log = FindLog(id)) {
         return log->GetText();
     }
+    if (const auto* const field = Find<CEditField>(id, ControlKind::EditField)) {
+        return FromQt(field->text());
+    }
     const Control* const control = Find(id);
     return control && HasText(control->kind) ? FromQt(control->text) : std::string();
 }
@@ -157,9 +162,20 @@ void CQtView::Move(ControlId id, const panel::Rectangle& rectangle) {
     }
 }
 
+panel::Point CQtView::ToScreen(ControlId id, panel::Point inControl) const {
+    const Control* const control = Find(id);
+    if (!control) {
+        return {};
+    }
+    const QPoint place = control->widget->mapToGlobal(QPoint(inControl.x, inControl.y));
+    return {place.x(), place.y()};
+}
+
 void CQtView::SetTextLimit(ControlId id, std::size_t characters) {
     if (CLogView* const log = FindLog(id)) {
         log->SetLimit(characters);
+    } else if (auto* const field = Find<CEditField>(id, ControlKind::EditField)) {
+        field->SetLimit(characters);
     }
 }
 
@@ -177,20 +193,16 @@ void CQtView::ClearLog(ControlId log) {
 
 // A range of nothing would make the toolkit's bar run for ever.
 void CQtView::SetProgressRange(ControlId bar, int maximum) {
-    const Control* const control = Find(bar);
-    if (control && control->kind == ControlKind::ProgressBar) {
-        auto& progress = static_cast<QProgressBar&>(*control->widget);
-        const int position = progress.value();
-        progress.setRange(0, std::max(1, maximum));
-        progress.setValue(std::clamp(position, 0, progress.maximum()));
+    if (auto* const progress = Find<QProgressBar>(bar, ControlKind::ProgressBar)) {
+        const int position = progress->value();
+        progress->setRange(0, std::max(1, maximum));
+        progress->setValue(std::clamp(position, 0, progress->maximum()));
     }
 }
 
 void CQtView::SetProgressPosition(ControlId bar, int position) {
-    const Control* const control = Find(bar);
-    if (control && control->kind == ControlKind::ProgressBar) {
-        auto& progress = static_cast<QProgressBar&>(*control->widget);
-        progress.setValue(std::clamp(position, 0, progress.maximum()));
+    if (auto* const progress = Find<QProgressBar>(bar, ControlKind::ProgressBar)) {
+        progress->setValue(std::clamp(position, 0, progress->maximum()));
     }
 }
 

@@ -57,6 +57,7 @@ public:
     void SetSize(panel::Size size) override;
     panel::Rectangle GetRectangle(panel::ControlId id) const override;
     void Move(panel::ControlId id, const panel::Rectangle& rectangle) override;
+    panel::Point ToScreen(panel::ControlId id, panel::Point inControl) const override;
 
     void InsertColumn(panel::ControlId list, int index, const panel::ListColumn& column) override;
     int InsertRow(panel::ControlId list, int index, std::string_view text) override;
@@ -72,10 +73,25 @@ public:
     int GetSelectionMark(panel::ControlId list) const override;
     int GetFocusedRow(panel::ControlId list) const override;
     void EnsureRowVisible(panel::ControlId list, int row) override;
+    std::optional<panel::Point> GetRowPosition(panel::ControlId list, int row) const override;
+    panel::Size GetListClientSize(panel::ControlId list) const override;
 
     void SetTextLimit(panel::ControlId id, std::size_t characters) override;
     void AppendLog(panel::ControlId log, std::string_view text) override;
     void ClearLog(panel::ControlId log) override;
+
+    void SetChecked(panel::ControlId box, bool checked) override;
+    bool IsChecked(panel::ControlId box) const override;
+
+    void SetAddress(panel::ControlId field, std::uint32_t address) override;
+    std::uint32_t GetAddress(panel::ControlId field) const override;
+
+    int AddChoice(panel::ControlId list, std::string_view text, std::int32_t data) override;
+    void SelectChoice(panel::ControlId list, int index) override;
+    int GetSelectedChoice(panel::ControlId list) const override;
+    std::optional<std::int32_t> GetChoiceData(panel::ControlId list, int index) const override;
+
+    int SetIcon(panel::ControlId id, panel::StandardIcon icon) override;
 
     void SetProgressRange(panel::ControlId bar, int maximum) override;
     void SetProgressPosition(panel::ControlId bar, int position) override;
@@ -94,6 +110,12 @@ private:
 
     const Control* Find(panel::ControlId id) const;
     Control* Find(panel::ControlId id);
+    /// The widget of a control of that kind, else null.
+    template <class Widget>
+    Widget* Find(panel::ControlId id, panel::ControlKind kind) const {
+        const Control* const control = Find(id);
+        return control && control->kind == kind ? static_cast<Widget*>(control->widget) : nullptr;
+    }
     CListView* FindList(panel::ControlId id) const;
     CLogView* FindLog(panel::ControlId id) const;
     void Build(const panel::DialogTemplate& dialogTemplate);

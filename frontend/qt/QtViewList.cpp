@@ -84,4 +84,14 @@ void CQtView::EnsureRowVisible(ControlId list, int row) {
     }
 }
 
+std::optional<panel::Point> CQtView::GetRowPosition(ControlId list, int row) const {
+    CListView* const found = FindList(list);
+    return found ? found->GetRowPosition(row) : std::nullopt;
+}
+
+panel::Size CQtView::GetListClientSize(ControlId list) const {
+    const CListView* const found = FindList(list);
+    return found ? found->GetClientSize() : panel::Size{};
+}
+
 }

@@ -11,6 +11,8 @@ class IView;
 
 inline constexpr ControlId kOkButton = 1;
 inline constexpr ControlId kCancelButton = 2;
+inline constexpr ControlId kYesButton = 6;
+inline constexpr ControlId kNoButton = 7;
 
 /// Virtual-key codes that the panel acts on (winuser.h); front ends translate into these.
 inline constexpr std::uint16_t kDeleteKey = 0x2E;
@@ -26,8 +28,9 @@ public:
 
     /// The view has been built from its template and is about to be shown. Called once.
     virtual void OnInit(IView& view) = 0;
-    /// A button was pressed, by mouse, key or mnemonic. In a modal dialog Return sends the default
-    /// button's id; Escape and the close box send kCancelButton, also when there is no such button.
+    /// A button was pressed or a check box toggled, by mouse, key or mnemonic. In a modal dialog
+    /// Return sends the default button's id; Escape and the close box send kCancelButton, also when
+    /// there is no such button.
     virtual void OnCommand(ControlId id) = 0;
     /// The view has a new client size.
     virtual void OnResized(Size) {}

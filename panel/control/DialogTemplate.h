@@ -18,8 +18,13 @@ enum class ControlKind {
     GroupBox,
     Label,
     CentredLabel,
-    TextField,   ///< read-only, one line
-    NumberField, ///< read-only, one line, accepts digits only
+    TextField,    ///< read-only, one line
+    NumberField,  ///< read-only, one line, accepts digits only
+    EditField,    ///< the user's to change, one line
+    AddressField, ///< an IPv4 address in four parts; can hold nothing else
+    CheckBox,
+    DropDownList, ///< one choice out of several, none at first
+    Icon,
     MultiSelectList,
     SingleSelectList,
     Log, ///< read-only, many lines, vertical scroll bar, follows its end

@@ -1,13 +1,14 @@
 #include "panel/control/Help.h"
 
+#include "panel/control/HelpTopics.h"
+
 namespace panel {
 
 namespace {
 constexpr const char* kHelpFile = "cmn_krx8maintenanceui.hlp";
-constexpr std::uint32_t kOverview = 1;
 }
 
-void CHelp::ShowHelp() { Open(kOverview, Owner::Panel); }
+void CHelp::ShowHelp() { Open(kOverviewTopic, Owner::Panel); }
 
 void CHelp::ShowHelp(std::uint32_t context) {
     if (context == 0) {

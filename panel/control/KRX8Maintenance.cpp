@@ -44,10 +44,22 @@ CKRX8Maintenance::CKRX8Maintenance(Private, std::unique_ptr<IToolkit> toolkit)
       m_freeMemory(m_services),
       m_information(m_services, m_freeMemory),
       m_files(m_services),
-      m_fileKeys(m_services),
       m_selfTests(m_services, m_help),
+      m_updateSettings(*m_toolkit),
+      m_iniUpdate(m_services, m_updateSettings, m_controls),
+      m_updateCheck(m_services, m_updateSettings, m_iniUpdate, m_help),
       m_refresh(m_services, m_selfTests, m_information, m_files, m_updateCheck, m_controls),
-      m_typeReader(m_services, m_refresh) {}
+      m_typeReader(m_services, m_refresh),
+      m_reset(m_services, m_refresh),
+      m_report(m_services),
+      m_network(m_services, m_help, m_refresh),
+      m_deletion(m_services, m_freeMemory, m_files),
+      m_move(m_services, m_freeMemory, m_files),
+      m_phoneUpload(m_services, m_help, m_freeMemory, m_files),
+      m_codeUpload(m_services, m_controls, m_refresh),
+      m_fileMenu(m_services, m_files, m_controls,
+                 {m_phoneUpload, m_deletion, m_move, m_codeUpload}),
+      m_fileKeys(m_services, m_deletion, m_fileMenu) {}
 
 CKRX8Maintenance::~CKRX8Maintenance() {
     // Host code runs below; nothing the user does meanwhile may reach a panel that is going.
@@ -139,6 +151,22 @@ void CKRX8Maintenance::OnHelpRequest(const Notification& notification) {
 void CKRX8Maintenance::OnHelpButton(const Notification&) { m_help.ShowHelp(); }
 
 void CKRX8Maintenance::OnDetails(const Notification&) { m_selfTests.ShowDetails(); }
+
+void CKRX8Maintenance::OnUpdate(const Notification&) {
+    m_iniUpdate.UpdateFromChosenFile(m_refresh);
+}
+
+void CKRX8Maintenance::OnDelete(const Notification&) { m_deletion.DeleteSelectedFiles(); }
+
+void CKRX8Maintenance::OnFileListRightClick(const Notification& notification) {
+    m_fileMenu.DisplayAndHandleFileContextMenu(false, notification.screen);
+}
+
+void CKRX8Maintenance::OnReport(const Notification&) { m_report.WriteMaintenanceReport(); }
+
+void CKRX8Maintenance::OnReset(const Notification&) { m_reset.ResetDevice(); }
+
+void CKRX8Maintenance::OnNetworkConfiguration(const Notification&) { m_network.Configure(); }
 
 void CKRX8Maintenance::OnFileListKey(const Notification& notification) {
     m_fileKeys.OnFileListKeyDown(notification.virtualKey);

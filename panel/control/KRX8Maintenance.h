@@ -13,14 +13,24 @@
 #include "panel/device/ConnectionClientImpl2.h"
 #include "panel/device/ContextMemberImpl.h"
 #include "panel/device/DeviceEvents.h"
+#include "panel/device/DeviceReset.h"
 #include "panel/device/DeviceTypeReader.h"
 #include "panel/device/ProgrammingDeviceClientImpl.h"
+#include "panel/files/CodeUpload.h"
+#include "panel/files/FileContextMenu.h"
+#include "panel/files/FileDeletion.h"
 #include "panel/files/FileListKeys.h"
 #include "panel/files/FileListing.h"
+#include "panel/files/FileMove.h"
+#include "panel/files/PhoneFileUpload.h"
 #include "panel/info/DeviceInformation.h"
 #include "panel/info/FreeMemory.h"
+#include "panel/info/MaintenanceReport.h"
 #include "panel/info/RefreshSequence.h"
+#include "panel/netconf/NetworkConfiguration.h"
 #include "panel/selftest/SelfTestStatus.h"
+#include "panel/update/IniUpdate.h"
+#include "panel/update/RegUpdate.h"
 #include "panel/update/UpdateCheck.h"
 
 #include <cstdint>
@@ -83,14 +93,14 @@ public:
     void OnHelpRequest(const Notification& notification);
     void OnHelpButton(const Notification&);
     void OnDetails(const Notification&);
-    void OnUpdate(const Notification&) {}
-    void OnDelete(const Notification&) {}
-    void OnFileListRightClick(const Notification&) {}
+    void OnUpdate(const Notification&);
+    void OnDelete(const Notification&);
+    void OnFileListRightClick(const Notification& notification);
     void OnFileListKey(const Notification& notification);
-    void OnReport(const Notification&) {}
-    void OnReset(const Notification&) {}
+    void OnReport(const Notification&);
+    void OnReset(const Notification&);
     void OnClose(const Notification&);
-    void OnNetworkConfiguration(const Notification&) {}
+    void OnNetworkConfiguration(const Notification&);
 
     std::shared_ptr<CKRX8Maintenance> Self() { return shared_from_this(); }
     COutputArea& Output() { return m_output; }
@@ -113,11 +123,21 @@ private:
     CFreeMemory m_freeMemory;
     CDeviceInformation m_information;
     CFileListing m_files;
-    CFileListKeys m_fileKeys;
     CSelfTestStatus m_selfTests;
+    CRegUpdate m_updateSettings;
+    CIniUpdate m_iniUpdate;
     CUpdateCheck m_updateCheck;
     CRefreshSequence m_refresh;
     CDeviceTypeReader m_typeReader;
+    CDeviceReset m_reset;
+    CMaintenanceReport m_report;
+    CNetworkConfiguration m_network;
+    CFileDeletion m_deletion;
+    CFileMove m_move;
+    CPhoneFileUpload m_phoneUpload;
+    CCodeUpload m_codeUpload;
+    CFileContextMenu m_fileMenu;
+    CFileListKeys m_fileKeys;
     // Last, so that it ends before what its handler uses.
     std::unique_ptr<IView> m_ownedView;
     bool m_hadView = false;

@@ -37,6 +37,20 @@ public:
     void SetTextLimit(ControlId, std::size_t) override {}
     void AppendLog(ControlId, std::string_view) override {}
     void ClearLog(ControlId) override {}
+    Point ToScreen(ControlId, Point) const override { return {}; }
+    std::optional<Point> GetRowPosition(ControlId, int) const override { return std::nullopt; }
+    Size GetListClientSize(ControlId) const override { return {}; }
+    void SetChecked(ControlId, bool) override {}
+    bool IsChecked(ControlId) const override { return false; }
+    void SetAddress(ControlId, std::uint32_t) override {}
+    std::uint32_t GetAddress(ControlId) const override { return 0; }
+    int AddChoice(ControlId, std::string_view, std::int32_t) override { return kNoChoice; }
+    void SelectChoice(ControlId, int) override {}
+    int GetSelectedChoice(ControlId) const override { return kNoChoice; }
+    std::optional<std::int32_t> GetChoiceData(ControlId, int) const override {
+        return std::nullopt;
+    }
+    int SetIcon(ControlId, StandardIcon) override { return 0; }
     void SetProgressRange(ControlId, int) override {}
     void SetProgressPosition(ControlId, int) override {}
     void EndDialog(int) override {}

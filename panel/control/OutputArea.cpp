@@ -6,6 +6,7 @@
 #include "panel/control/Call.h"
 #include "panel/control/Format.h"
 #include "panel/control/PanelTemplate.h"
+#include "panel/control/StringTable.h"
 #include "panel/control/Utf8.h"
 
 #include <array>
@@ -123,6 +124,11 @@ std::int32_t COutputArea::ShowMessage(std::optional<std::string_view> text,
     const std::string code =
         Format("\r\nHRESULT 0x%08x (%d)", static_cast<unsigned>(status.Code()), status.Code());
     return m_toolkit.ShowBox(message.text + code, message.caption, style);
+}
+
+void COutputArea::ShowFatalError(std::string_view caption) {
+    ShowMessage(LoadPanelString(StringId::FatalError), caption, contract::kInvalidPointer, "",
+                kErrorStyle);
 }
 
 std::int32_t COutputArea::ReportError(std::optional<std::string_view> text,

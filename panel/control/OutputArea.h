@@ -56,6 +56,9 @@ public:
                              std::optional<std::string_view> description, std::uint32_t style,
                              std::int32_t showFlag = kShowFlag, std::int32_t owner = kNoOwner);
 
+    /// The report that there is no device control to work with.
+    void ShowFatalError(std::string_view caption);
+
     /// ShowMessage with the description that the failing call left, which it takes.
     std::int32_t ReportError(std::optional<std::string_view> text,
                              std::optional<std::string_view> caption, contract::Status status,

@@ -1,5 +1,7 @@
 #include "panel/control/PanelTemplate.h"
 
+#include "panel/control/HelpTopics.h"
+
 namespace panel {
 
 namespace {
@@ -16,7 +18,7 @@ constexpr int kRowHeight = 16;
 constexpr Rectangle LabelAt(int row) { return {14, kFirstRow + 2 + row * kRowHeight, 54, 8}; }
 constexpr Rectangle FieldAt(int row) { return {69, kFirstRow + row * kRowHeight, 60, 12}; }
 
-constexpr ControlTemplate kControls[] = {
+constexpr auto kControls = WithTopics({
     {kInfoGroup, GroupBox, "KRX-8 Info", {7, 7, 129, 190}},
     {kSerialNumberLabel, Label, "S/N", LabelAt(0)},
     {kSerialNumberField, TextField, "", FieldAt(0)},
@@ -54,7 +56,7 @@ constexpr ControlTemplate kControls[] = {
     {kNetworkButton, Button, "&KRX10 Conf", {315, 273, 40, 14}, Disabled},
     {kCloseButton, Button, "&Close", {359, 273, 40, 14}},
     {kHelpButton, Button, "&Help", {403, 273, 40, 14}},
-};
+});
 
 }
 

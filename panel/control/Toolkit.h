@@ -9,7 +9,11 @@
 namespace panel {
 
 class IDialogHandler;
+class IPopupMenu;
+class IRegistry;
 class IView;
+struct FileDialog;
+struct FileOutcome;
 
 /// The window that a dialog or a help window belongs to.
 enum class Owner { None, Panel, PanelParent, ActiveWindow };
@@ -26,6 +30,12 @@ struct DialogOutcome {
     static constexpr DialogOutcome Failed(int error) { return {Kind::Failed, error}; }
 
     friend constexpr bool operator==(const DialogOutcome&, const DialogOutcome&) = default;
+};
+
+/// A moment as the user reads it, in the default short formats of the user's locale. UTF-8.
+struct LocalTime {
+    std::string date;
+    std::string time;
 };
 
 /// What the panel needs of a toolkit besides the controls of a view. One toolkit object belongs to
@@ -51,6 +61,23 @@ public:
     /// lines.
     virtual std::int32_t ShowBox(const std::string& text, const std::string& caption,
                                  std::uint32_t style) = 0;
+
+    /// Makes an empty pop-up menu; null, with the system's error number in `error` (0 when it names
+    /// none), when none can be had.
+    virtual std::unique_ptr<IPopupMenu> CreatePopupMenu(int& error) = 0;
+
+    /// Lets the user choose a file that exists.
+    virtual FileOutcome OpenFile(const FileDialog& dialog) = 0;
+    /// Lets the user name a file in a folder that exists. One that is there already is taken
+    /// without a question.
+    virtual FileOutcome SaveFile(const FileDialog& dialog) = 0;
+    /// What stands between the folders of the paths that the file dialogs deliver.
+    virtual char GetPathSeparator() const = 0;
+
+    /// Now.
+    virtual LocalTime GetLocalTime() const = 0;
+
+    virtual IRegistry& Registry() = 0;
 
     /// Shows the wait cursor until the matching PopCursor. Calls nest.
     virtual void PushWaitCursor() = 0;

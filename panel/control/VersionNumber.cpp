@@ -64,4 +64,9 @@ std::string FormatVersion(const VersionNumber& version, std::size_t size) {
     return text;
 }
 
+std::string NormalizePackageVersion(std::string_view text) {
+    constexpr std::size_t kSize = 80;
+    return FormatVersion(ParseVersion(text), kSize);
+}
+
 }

@@ -24,4 +24,8 @@ int CompareVersions(std::string_view a, std::string_view b);
 /// cut to size - 1 characters, as into a buffer of `size`.
 std::string FormatVersion(const VersionNumber& version, std::size_t size);
 
+/// The version of an update package as it is kept, shown and compared, in a buffer of 80: 2.10.4
+/// becomes 002.010.004.
+std::string NormalizePackageVersion(std::string_view text);
+
 }

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,12 @@ inline constexpr std::size_t kNoTextLimit = std::numeric_limits<std::size_t>::ma
 inline constexpr int kNoRow = -1;
 
 enum class Alignment { Left, Right };
+
+/// No choice of a drop-down list.
+inline constexpr int kNoChoice = -1;
+
+/// Icons that every toolkit has of its own.
+enum class StandardIcon { Information, Warning };
 
 struct ListColumn {
     const char* heading;
@@ -41,8 +48,9 @@ public:
 
     /// Returns `id` when the view has such a control, else kNoControl.
     virtual ControlId Capture(ControlId id) = 0;
-    /// "&" is shown as it is, never as the mark of a mnemonic. For a group box its title. For the
-    /// log and for lists: nothing (they have verbs of their own).
+    /// "&" is shown as it is, never as the mark of a mnemonic. For a group box its title.
+    /// Nothing for what has verbs of its own: log, lists, address fields, drop-down lists, icons,
+    /// progress bars.
     virtual void SetText(ControlId id, std::string_view text) = 0;
     /// For the log: all of its text, lines ended by CR LF.
     virtual std::string GetText(ControlId id) const = 0;
@@ -65,6 +73,8 @@ public:
     virtual Rectangle GetRectangle(ControlId id) const = 0;
     /// Places a control, keeping its stacking order, and has its frame computed anew.
     virtual void Move(ControlId id, const Rectangle& rectangle) = 0;
+    /// The place on the screen of a point inside a control's client area.
+    virtual Point ToScreen(ControlId id, Point inControl) const = 0;
 
     // List
 
@@ -90,6 +100,11 @@ public:
     /// The row with the item focus (the user's last row), whether selected or not.
     virtual int GetFocusedRow(ControlId list) const = 0;
     virtual void EnsureRowVisible(ControlId list, int row) = 0;
+    /// The top left corner of a row inside the list, outside the client area for a row that is
+    /// scrolled out of sight; nothing when there is no such row.
+    virtual std::optional<Point> GetRowPosition(ControlId list, int row) const = 0;
+    /// The area that shows the rows, column headings included.
+    virtual Size GetListClientSize(ControlId list) const = 0;
 
     // Log
 
@@ -99,6 +114,35 @@ public:
     virtual void AppendLog(ControlId log, std::string_view text) = 0;
     /// Selects all text and replaces it with nothing.
     virtual void ClearLog(ControlId log) = 0;
+
+    // Check box
+
+    virtual void SetChecked(ControlId box, bool checked) = 0;
+    virtual bool IsChecked(ControlId box) const = 0;
+
+    // Address field
+
+    /// The address as a number whose highest eight bits are its first part: 192.168.0.1 is
+    /// 0xC0A80001.
+    virtual void SetAddress(ControlId field, std::uint32_t address) = 0;
+    /// Parts that the user has left empty count as 0.
+    virtual std::uint32_t GetAddress(ControlId field) const = 0;
+
+    // Drop-down list
+
+    /// Appends a choice that carries `data` and returns its index, or kNoChoice without a list.
+    virtual int AddChoice(ControlId list, std::string_view text, std::int32_t data) = 0;
+    /// kNoChoice, or an index that the list does not have, leaves nothing chosen.
+    virtual void SelectChoice(ControlId list, int index) = 0;
+    virtual int GetSelectedChoice(ControlId list) const = 0;
+    /// Nothing when it cannot be read.
+    virtual std::optional<std::int32_t> GetChoiceData(ControlId list, int index) const = 0;
+
+    // Icon
+
+    /// Returns 0, or the system's error number when the icon cannot be had; the control then shows
+    /// none.
+    virtual int SetIcon(ControlId id, StandardIcon icon) = 0;
 
     // Progress bar
 

@@ -27,9 +27,7 @@ void CFileListing::Clear() {
 void CFileListing::UpdateFileListing(std::optional<std::string_view> selectName) {
     COutputArea& output = m_services.output;
     if (!m_services.device.Control()) {
-        output.ShowMessage(LoadPanelString(StringId::FatalError),
-                           LoadPanelString(StringId::PrommerMaintenance), contract::kInvalidPointer,
-                           "", kErrorStyle);
+        output.ShowFatalError(LoadPanelString(StringId::PrommerMaintenance));
         return;
     }
     Clear();

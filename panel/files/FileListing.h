@@ -27,6 +27,10 @@ public:
     /// When an event refills the list from inside a call of this one, this one stops there.
     void UpdateFileListing(std::optional<std::string_view> selectName = std::nullopt);
 
+    /// Changes whenever the list's rows give way to others: what was selected before is no longer
+    /// what is selected now.
+    std::uint64_t FillNumber() const { return m_fillNumber; }
+
 private:
     PanelServices& m_services;
     std::uint64_t m_fillNumber = 0;

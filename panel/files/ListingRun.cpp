@@ -23,7 +23,6 @@ using contract::Status;
 namespace {
 
 constexpr std::size_t kLongestCell = 256;
-constexpr std::size_t kPackageVersionSize = 80;
 /// Its version is that of the update package last installed on the device.
 constexpr std::string_view kPackageVersionFile = "version.fia";
 
@@ -115,8 +114,7 @@ bool CListingRun::FillRow(int row, File& file) {
 std::string_view CListingRun::TakeVersion(const File& file) {
     const std::string_view version = CutToBytes(file.version, kLongestCell);
     if (file.isPackageVersion) {
-        m_services.state.installedPackageVersion =
-            FormatVersion(ParseVersion(version), kPackageVersionSize);
+        m_services.state.installedPackageVersion = NormalizePackageVersion(version);
     }
     return version;
 }

@@ -168,7 +168,7 @@ constexpr Step kNetworkSteps[] = {
     {"IP address query failed",
      [](Reading& r) {
          return r.ShowText(r.network, &IKrx10CommunicationConfiguration2::GetIpAddress,
-                           kIpAddressField, "0.0.0.0");
+                           kIpAddressField, kNoAddress);
      }},
     {"Querying of IP address as a 32-bit integer failed",
      [](Reading& r) {

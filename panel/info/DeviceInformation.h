@@ -6,6 +6,9 @@ namespace panel {
 
 class CFreeMemory;
 
+/// Stands in the address field when the device names none.
+inline constexpr const char* kNoAddress = "0.0.0.0";
+
 /// Identity, versions, memory and network values of the device. User-interface thread only.
 class CDeviceInformation {
 public:

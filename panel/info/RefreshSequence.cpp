@@ -49,7 +49,7 @@ void CRefreshSequence::RefreshDeviceInfo() {
     m_services.state.installedPackageVersion.clear();
     WarnIfNotNormal();
     m_files.UpdateFileListing();
-    m_updateCheck.CheckForUpdatePackage();
+    m_updateCheck.CheckForUpdatePackage(*this);
     m_controls.EnableDeviceControls(true);
 }
 

@@ -2,6 +2,7 @@
 
 #include "frontend/headless/HeadlessToolkit.h"
 #include "interception/InterceptorChain.h"
+#include "panel/update/SWUpdateInfoTemplate.h"
 
 #include <utility>
 
@@ -32,6 +33,8 @@ PanelFixture::PanelFixture()
           panel::CKRX8Maintenance::Create(std::make_unique<headless::CHeadlessToolkit>(desktop))) {
     host.SetHostViewControl(viewControl);
     host.SetMessageService(messageService);
+    // A device without a package version is offered an update at every refresh.
+    desktop->prompts.AnswerAlways(panel::kSWUpdateInfoTemplate.id, panel::kNoButton);
 }
 
 PanelFixture::~PanelFixture() = default;
@@ -50,8 +53,7 @@ void PanelFixture::StartView() {
 
 void PanelFixture::StartPanel() {
     StartView();
-    ASSERT_EQ(panel->SetSubsystemAccess(interception.Wrap(host.SubsystemAccess())),
-              contract::kSuccess);
+    ASSERT_EQ(panel->SetSubsystemAccess(interception.Wrap(Access())), contract::kSuccess);
     ASSERT_EQ(panel->SetConnection(interception.Wrap(host.Connection())), contract::kSuccess);
 }
 

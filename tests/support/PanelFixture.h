@@ -39,6 +39,9 @@ protected:
     /// The first half of StartPanel: context and view.
     void StartView();
 
+    /// The door to the host's subsystems that the panel is handed.
+    virtual std::shared_ptr<contract::ISubsystemAccess> Access() { return host.SubsystemAccess(); }
+
     /// Inserts a device and raises connection state 7.
     void ConnectDevice(const simulator::DeviceDescription& description);
     void ConnectDevice(std::int32_t type) { ConnectDevice(HealthyDevice(type)); }

@@ -8,12 +8,22 @@
 #include "panel/control/PanelView.h"
 #include "panel/device/DeviceConnection.h"
 #include "panel/device/DeviceEvents.h"
+#include "panel/device/DeviceReset.h"
+#include "panel/files/CodeUpload.h"
+#include "panel/files/FileContextMenu.h"
+#include "panel/files/FileDeletion.h"
 #include "panel/files/FileListKeys.h"
 #include "panel/files/FileListing.h"
+#include "panel/files/FileMove.h"
+#include "panel/files/PhoneFileUpload.h"
 #include "panel/info/DeviceInformation.h"
 #include "panel/info/FreeMemory.h"
+#include "panel/info/MaintenanceReport.h"
 #include "panel/info/RefreshSequence.h"
+#include "panel/netconf/NetworkConfiguration.h"
 #include "panel/selftest/SelfTestStatus.h"
+#include "panel/update/IniUpdate.h"
+#include "panel/update/RegUpdate.h"
 #include "panel/update/UpdateCheck.h"
 #include "tests/support/PanelFixture.h"
 
@@ -48,10 +58,21 @@ public:
     panel::CFreeMemory freeMemory{services};
     panel::CDeviceInformation information{services, freeMemory};
     panel::CFileListing files{services};
-    panel::CFileListKeys fileKeys{services};
     panel::CSelfTestStatus selfTests{services, help};
-    panel::CUpdateCheck updateCheck;
+    panel::CRegUpdate updateSettings{*toolkit};
+    panel::CIniUpdate iniUpdate{services, updateSettings, controls};
+    panel::CUpdateCheck updateCheck{services, updateSettings, iniUpdate, help};
     panel::CRefreshSequence refresh{services, selfTests, information, files, updateCheck, controls};
+    panel::CDeviceReset reset{services, refresh};
+    panel::CMaintenanceReport report{services};
+    panel::CNetworkConfiguration network{services, help, refresh};
+    panel::CFileDeletion deletion{services, freeMemory, files};
+    panel::CFileMove move{services, freeMemory, files};
+    panel::CPhoneFileUpload phoneUpload{services, help, freeMemory, files};
+    panel::CCodeUpload codeUpload{services, controls, refresh};
+    panel::CFileContextMenu fileMenu{
+        services, files, controls, {phoneUpload, deletion, move, codeUpload}};
+    panel::CFileListKeys fileKeys{services, deletion, fileMenu};
     std::unique_ptr<panel::IView> ownedView;
 };
 

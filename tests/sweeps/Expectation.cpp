@@ -1,8 +1,9 @@
 #include "tests/sweeps/Expectation.h"
 
 #include "interception/Operations.h"
+#include "tests/sweeps/ExpectationEntry.h"
 #include "tests/sweeps/ExpectedRefresh.h"
-#include "tests/sweeps/ExpectedSelfTests.h"
+#include "tests/sweeps/Scenario.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,36 +24,27 @@ bool IsAnsweredByDevice(std::string_view operation) {
 
 }
 
-/// One call of host, connection, device or view into the panel, which lives until the outermost of
-/// them has returned.
-class CExpectation::CEntry {
-public:
-    explicit CEntry(CExpectation& panel) : m_panel(panel) { ++m_panel.m_entries; }
-    ~CEntry() {
-        if (--m_panel.m_entries == 0 && m_panel.m_isReleased) {
-            m_panel.EndPanel();
-        }
-    }
-    CEntry(const CEntry&) = delete;
-    CEntry& operator=(const CEntry&) = delete;
-
-private:
-    CExpectation& m_panel;
-};
-
-CExpectation::CExpectation(simulator::DeviceDescription device) : m_device(std::move(device)) {}
+CExpectation::CExpectation(simulator::DeviceDescription device, std::string packageVersion)
+    : isPolling(PollsAtFirst(device)),
+      m_device(std::move(device)),
+      m_packageVersion(std::move(packageVersion)) {}
 
 void CExpectation::Arrange(const Plan& plan) {
     m_plan = plan;
+    m_answers = plan.answers.value_or(Answers());
+    m_offers = 0;
+    m_callsOfRefresh.clear();
     m_calls = 0;
     m_callsSpoilt = 0;
     m_boxes = 0;
+    m_boxAfterFault = 0;
     m_dialogs = 0;
     m_prompts.clear();
 }
 
 Observation CExpectation::Take() {
     Observation seen = std::exchange(m_seen, {});
+    seen.isPolling = isPolling;
     seen.picture = m_picture;
     if (m_picture) {
         seen.log = m_log.Lines();
@@ -212,20 +204,13 @@ void CExpectation::LoseDevice() {
     m_isLost = true;
 }
 
-void CExpectation::PressButton(panel::ControlId id) {
-    if (m_isReleased || !m_picture || !m_picture->enabled[id]) {
-        return;
-    }
-    const CEntry entry(*this);
-    if (id == panel::kDetailsButton) {
-        ExpectDetails(*this);
-    }
-}
-
 // What the panel does
 
 bool CExpectation::Call(std::string_view operation, const Effect& effect) {
     const std::size_t call = ++m_calls;
+    if (refreshes > 0) {
+        m_callsOfRefresh.push_back(call);
+    }
     m_seen.calls.push_back(operation);
     Intrude(Moment::BeforeCall, call);
     if (m_plan.lossInCall == call) {
@@ -259,7 +244,9 @@ bool CExpectation::Spoils(std::size_t call, std::string_view operation) {
     } else {
         return false;
     }
-    ++m_callsSpoilt;
+    if (m_callsSpoilt++ == 0) {
+        m_boxAfterFault = m_boxes + 1;
+    }
     return true;
 }
 

@@ -26,9 +26,16 @@ namespace sweeps {
 /// beside it (Expected*.cpp), which know nothing of the code under test.
 class CExpectation final : public IStage {
 public:
-    enum class Prompt { PlainBox, Dialog };
+    /// What the toolkit shows, and the button or command with which it is left.
+    struct Prompt {
+        enum class Kind { PlainBox, SelfTests, Offer, Network, Menu, OpenFile, SaveFile };
 
-    explicit CExpectation(simulator::DeviceDescription device);
+        Kind kind;
+        std::int32_t answer = 0;
+    };
+
+    /// A panel with a device, on a workstation that has an update package of that version.
+    CExpectation(simulator::DeviceDescription device, std::string packageVersion);
 
     /// Lets things go wrong from here on; calls and boxes count from here.
     void Arrange(const Plan& plan);
@@ -38,6 +45,11 @@ public:
     /// since Arrange.
     const std::vector<Prompt>& Prompts() const { return m_prompts; }
     std::size_t Boxes() const { return m_boxes; }
+    std::size_t Dialogs() const { return m_dialogs; }
+    /// The number of the box that comes after the first call that was spoilt.
+    std::size_t BoxAfterFault() const { return m_boxAfterFault; }
+    /// The calls that belong to a refresh or to a listing of the files, in order.
+    const std::vector<std::size_t>& CallsOfRefresh() const { return m_callsOfRefresh; }
     /// How many of the calls picked by the plan are reached.
     std::size_t CallsSpoilt() const { return m_callsSpoilt; }
     /// Whether the device is shown in full from the next refresh on: it is a known one, the view
@@ -65,6 +77,9 @@ public:
     void InsertDevice() override;
     void LoseDevice() override;
     void PressButton(panel::ControlId id) override;
+    void SelectRows(const std::vector<int>& rows) override;
+    void PressKey(std::uint16_t virtualKey) override;
+    void RightClick() override;
 
     // For the tables of what is expected
 
@@ -74,15 +89,27 @@ public:
     bool Call(std::string_view operation, const Effect& effect = {});
     /// Several, up to the first that fails.
     bool CallInTurn(std::initializer_list<std::string_view> operations);
+    /// What counts as a call that failed, though nobody could be called.
+    void FailWithoutCall(contract::Status status) { m_failure = {status, ""}; }
     /// The status of the call that failed last.
     contract::Status FailureStatus() const { return m_failure.status; }
 
     /// The error report of the call that failed last.
     void Report(const std::string& text, const std::string& caption);
     void Warn(const std::string& text, const std::string& caption);
+    /// A box of that style that no failure causes.
+    void Tell(const std::string& text, const std::string& caption, std::uint32_t style);
+    /// A question, and the button with which it is answered.
+    std::int32_t Ask(const std::string& text, const std::string& caption);
     void WriteLine(const std::string& text);
-    /// The self-test dialog, open.
-    void OpenDialog(DialogRows rows);
+    /// A dialog or menu, open. `kind` is one that is left by `answer`.
+    void OpenDialog(Prompt::Kind kind, DialogRows rows, std::int32_t answer = 0);
+    /// The user's answer to the next offer of an update.
+    std::int32_t TakeOfferAnswer();
+    const Answers& UserAnswers() const { return m_answers; }
+    /// What a call wrote to the device.
+    void NoteWrite(const std::string& call);
+    void NoteReport(const std::string& text) { m_seen.report = text; }
 
     /// Nothing for a control that cannot be reached: no view, or one left uninitialised.
     void SetText(panel::ControlId id, const std::string& text);
@@ -91,8 +118,13 @@ public:
     Picture* List();
 
     const simulator::DeviceDescription& Device() const { return m_device; }
+    const std::string& PackageVersion() const { return m_packageVersion; }
 
     Kept kept;
+    bool isPolling;
+    int waitCursors = 0;
+    /// Refreshes and listings under way.
+    int refreshes = 0;
     /// Counts the fillings of the file list begun.
     std::uint64_t fillings = 0;
     /// What the panel holds of its host.
@@ -127,17 +159,22 @@ private:
 
     bool Spoils(std::size_t call, std::string_view operation);
     void Intrude(Moment moment, std::size_t number);
-    void Show(const support::Shown& message);
-    void ShowPlainBox(const support::Shown& message);
+    std::int32_t Show(const support::Shown& message);
+    void ShowPlainBox(const support::Shown& message, std::int32_t answer);
     void OpenBox();
     bool CanReachLog() const { return m_picture && m_isWhole; }
     void EndPanel();
 
     const simulator::DeviceDescription m_device;
+    const std::string m_packageVersion;
     Plan m_plan;
+    Answers m_answers;
+    std::size_t m_offers = 0;
+    std::vector<std::size_t> m_callsOfRefresh;
     std::size_t m_calls = 0;
     std::size_t m_callsSpoilt = 0;
     std::size_t m_boxes = 0;
+    std::size_t m_boxAfterFault = 0;
     std::size_t m_dialogs = 0;
     std::vector<Prompt> m_prompts;
     Failing m_failure;

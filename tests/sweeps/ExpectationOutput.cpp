@@ -1,4 +1,4 @@
-// What of an expectation is to be seen: boxes, dialogs, the log and the controls.
+// What of an expectation is to be seen: boxes, dialogs, writes, the log and the controls.
 
 #include "tests/sweeps/Expectation.h"
 
@@ -14,10 +14,22 @@ void CExpectation::Report(const std::string& text, const std::string& caption) {
 }
 
 void CExpectation::Warn(const std::string& text, const std::string& caption) {
-    Show({text, caption, 0x30, 0, ""});
+    Tell(text, caption, 0x30);
 }
 
-void CExpectation::Show(const support::Shown& message) {
+void CExpectation::Tell(const std::string& text, const std::string& caption, std::uint32_t style) {
+    Show({text, caption, style, 0, ""});
+}
+
+std::int32_t CExpectation::Ask(const std::string& text, const std::string& caption) {
+    return Show({text, caption, 0x24, 0, ""});
+}
+
+std::int32_t CExpectation::Show(const support::Shown& message) {
+    constexpr std::int32_t kOk = 1;
+    constexpr std::int32_t kNo = 7;
+    const std::int32_t chosen = m_answers.question == 0 ? kNo : m_answers.question;
+    const std::int32_t answer = message.style == 0x24 ? chosen : kOk;
     const auto show = [&] {
         if (m_plan.failMessageService) {
             return;
@@ -28,17 +40,17 @@ void CExpectation::Show(const support::Shown& message) {
     const bool isAnswered =
         Call("Context.QueryMessageService") && Call("MessageService.ShowMessage", show);
     if (!isAnswered || m_plan.failMessageService) {
-        ShowPlainBox(message);
+        ShowPlainBox(message, answer);
     }
+    return answer;
 }
 
-void CExpectation::ShowPlainBox(const support::Shown& message) {
-    constexpr std::int32_t kOk = 1;
+void CExpectation::ShowPlainBox(const support::Shown& message, std::int32_t answer) {
     char code[40];
     std::snprintf(code, sizeof code, "\r\nHRESULT 0x%08x (%d)",
                   static_cast<unsigned>(message.status), message.status);
-    m_seen.boxes.push_back({message.text + code, message.caption, message.style, kOk});
-    m_prompts.push_back(Prompt::PlainBox);
+    m_seen.boxes.push_back({message.text + code, message.caption, message.style, answer});
+    m_prompts.push_back({Prompt::Kind::PlainBox, answer});
     OpenBox();
 }
 
@@ -49,10 +61,24 @@ void CExpectation::OpenBox() {
     Intrude(Moment::WhileBoxOpen, ++m_boxes);
 }
 
-void CExpectation::OpenDialog(DialogRows rows) {
+void CExpectation::OpenDialog(Prompt::Kind kind, DialogRows rows, std::int32_t answer) {
     m_seen.dialogs.push_back(std::move(rows));
-    m_prompts.push_back(Prompt::Dialog);
+    m_prompts.push_back({kind, answer});
+    if (m_picture) {
+        m_seen.enabledBehindDialogs.push_back(m_picture->enabled);
+    }
     Intrude(Moment::WhileDialogOpen, ++m_dialogs);
+}
+
+std::int32_t CExpectation::TakeOfferAnswer() {
+    constexpr std::int32_t kNo = 7;
+    return m_offers < m_answers.offers.size() ? m_answers.offers[m_offers++] : kNo;
+}
+
+void CExpectation::NoteWrite(const std::string& call) {
+    m_seen.writes.push_back(
+        DescribeWrite(call, waitCursors > 0, isPolling,
+                      m_isReleased ? std::nullopt : std::optional(kept.refreshAllowed)));
 }
 
 void CExpectation::WriteLine(const std::string& text) { m_log.WritePlain(text, CanReachLog()); }

@@ -1,7 +1,10 @@
 #include "tests/sweeps/ExpectedListing.h"
 
 #include "tests/sweeps/Expectation.h"
+#include "tests/sweeps/ExpectedScopes.h"
 
+#include <algorithm>
+#include <cctype>
 #include <map>
 #include <string>
 
@@ -114,6 +117,15 @@ struct Filling {
     }
 };
 
+/// Of the row with that name, its case ignored; the first one when there is none.
+int RowOf(const Picture& list, const std::string& name) {
+    const auto isSame = [](char a, char b) { return std::tolower(a) == std::tolower(b); };
+    const auto row = std::ranges::find_if(list.rows, [&](const FileRow& each) {
+        return std::ranges::equal(each.cells.front(), name, isSame);
+    });
+    return row == list.rows.end() ? 0 : static_cast<int>(row - list.rows.begin());
+}
+
 }
 
 void ExpectListCleared(CExpectation& panel) {
@@ -125,18 +137,20 @@ void ExpectListCleared(CExpectation& panel) {
     }
 }
 
-void ExpectListing(CExpectation& panel) {
+void ExpectListing(CExpectation& panel, const std::optional<std::string>& selectName) {
     ExpectListCleared(panel);
     if (panel.kept.mode != 1) {
         return;
     }
     panel.WriteLine("Updating file listing...");
+    const CPartOfRefresh part(panel);
     if (!Filling{panel, panel.fillings}.ListFiles()) {
         return;
     }
     if (Picture* list = panel.List()) {
-        list->selection = {0};
-        list->mark = 0;
+        const int row = selectName ? RowOf(*list, *selectName) : 0;
+        list->selection = {row};
+        list->mark = row;
     }
     panel.WriteLine("File listing updated");
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 namespace sweeps {
 
 class CExpectation;
@@ -7,7 +10,8 @@ class CExpectation;
 /// Removing all rows, which ends every filling that is under way.
 void ExpectListCleared(CExpectation& panel);
 
-/// Filling the file list from the device.
-void ExpectListing(CExpectation& panel);
+/// Filling the file list from the device, with the file of that name selected if there is one, else
+/// with the first one.
+void ExpectListing(CExpectation& panel, const std::optional<std::string>& selectName = {});
 
 }

@@ -2,7 +2,9 @@
 
 #include "tests/sweeps/Expectation.h"
 #include "tests/sweeps/ExpectedListing.h"
+#include "tests/sweeps/ExpectedScopes.h"
 #include "tests/sweeps/ExpectedSelfTests.h"
+#include "tests/sweeps/ExpectedUpdate.h"
 
 #include <span>
 #include <string>
@@ -99,16 +101,6 @@ bool Expect(CExpectation& panel, std::span<const Step> steps, const char* captio
     return true;
 }
 
-void ExpectFreeMemory(CExpectation& panel) {
-    if (IsKrx8Family(panel) && panel.kept.mode != 1) {
-        panel.SetText(216, "0");
-        panel.SetText(214, "0");
-        return;
-    }
-    panel.WriteLine("Querying free memory resources");
-    Expect(panel, kFreeMemory, "Update Free memory");
-}
-
 void ExpectDeviceInformation(CExpectation& panel) {
     panel.WriteLine("Querying hardware and software info from Programming Device");
     if (!Expect(panel, kVersionsAndSizes, kCaption)) {
@@ -126,10 +118,8 @@ void ExpectModeKnown(CExpectation& panel) {
     }
 }
 
-void ExpectRefresh(CExpectation& panel) {
-    if (!panel.kept.refreshAllowed) {
-        return;
-    }
+void ExpectEverythingReadAnew(CExpectation& panel) {
+    const CPartOfRefresh part(panel);
     for (const panel::ControlId id : {211, 212, 217, 218, 219, 244}) {
         panel.SetText(id, "");
     }
@@ -147,9 +137,28 @@ void ExpectRefresh(CExpectation& panel) {
         panel.Warn(kWarning, kCaption);
     }
     ExpectListing(panel);
-    ExpectControlsEnabled(panel, true);
 }
 
+}
+
+void ExpectFreeMemory(CExpectation& panel) {
+    if (IsKrx8Family(panel) && panel.kept.mode != 1) {
+        panel.SetText(216, "0");
+        panel.SetText(214, "0");
+        return;
+    }
+    panel.WriteLine("Querying free memory resources");
+    Expect(panel, kFreeMemory, "Update Free memory");
+}
+
+void ExpectRefresh(CExpectation& panel) {
+    if (!panel.kept.refreshAllowed) {
+        return;
+    }
+    const CExpectedCursor cursor(panel);
+    ExpectEverythingReadAnew(panel);
+    ExpectUpdateCheck(panel);
+    ExpectControlsEnabled(panel, true);
 }
 
 void ExpectTypeRead(CExpectation& panel) {

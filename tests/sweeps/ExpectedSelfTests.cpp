@@ -100,7 +100,7 @@ void ExpectDetails(CExpectation& panel) {
         }
         rows.emplace_back(test.label, ResultOf(panel, test).text);
     }
-    panel.OpenDialog(std::move(rows));
+    panel.OpenDialog(CExpectation::Prompt::Kind::SelfTests, std::move(rows));
 }
 
 }

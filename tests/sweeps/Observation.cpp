@@ -85,7 +85,16 @@ CLines Describe(const Observation& seen) {
             out << label << " = " << status << ", ";
         }
     });
+    AddEach(lines, "behind dialog", seen.enabledBehindDialogs, [](auto& out, const auto& enabled) {
+        for (const auto& [id, isEnabled] : enabled) {
+            out << id << (isEnabled ? " is enabled, " : " is disabled, ");
+        }
+    });
+    AddEach(lines, "write", seen.writes, kAsIs);
+    AddEach(lines, "focus", seen.focused, kAsIs);
     AddEach(lines, "log line", seen.log, kAsIs);
+    lines.Add("report: ", seen.report.value_or("none"));
+    lines.Add(seen.isPolling ? "polling" : "not polling");
     lines.Add(seen.picture ? "a view" : "no view");
     if (seen.picture) {
         lines.Add(*seen.picture);
@@ -112,6 +121,15 @@ std::string Difference(const CLines& expected, const CLines& seen) {
     return text.empty() ? "(differs in what is not described)" : text;
 }
 
+}
+
+std::string DescribeWrite(const std::string& call, bool isBusy, bool isPolling,
+                          std::optional<bool> isRefreshAllowed) {
+    std::string text = call + (isBusy ? ", wait cursor" : "") + (isPolling ? ", polling" : "");
+    if (isRefreshAllowed) {
+        text += *isRefreshAllowed ? ", refresh allowed" : ", refresh held back";
+    }
+    return text;
 }
 
 Picture FreshPicture() {

@@ -46,6 +46,11 @@ struct Picture {
     friend bool operator==(const Picture&, const Picture&) = default;
 };
 
+/// A call that writes to the device, with whether the wait cursor is shown, the host polls, and a
+/// refresh may start; the last is unknown of a panel that its host has released.
+std::string DescribeWrite(const std::string& call, bool isBusy, bool isPolling,
+                          std::optional<bool> isRefreshAllowed);
+
 /// A view of which nothing has been changed yet.
 Picture FreshPicture();
 
@@ -64,7 +69,8 @@ struct Kept {
     friend bool operator==(const Kept&, const Kept&) = default;
 };
 
-/// Label and status of each row that a self-test dialog opens with.
+/// What a dialog or a menu opens with, in pairs: label and status of each self-test, name and value
+/// of a field, command and text of a menu's line.
 using DialogRows = std::vector<std::pair<std::string, std::string>>;
 
 /// Everything that host, device and user see of a stretch of a panel's life.
@@ -76,9 +82,20 @@ struct Observation {
     /// Boxes of the message service, and plain ones.
     std::vector<support::Shown> messages;
     std::vector<headless::ShownBox> boxes;
-    /// The panel behind each of them, of either kind, in the order in which they opened.
-    std::vector<Picture> behindBoxes;
+    /// Dialogs of the panel and of the system, and menus.
     std::vector<DialogRows> dialogs;
+    /// The panel behind each box, in the order in which they opened.
+    std::vector<Picture> behindBoxes;
+    /// Which controls are enabled behind each dialog and menu.
+    std::vector<std::map<panel::ControlId, bool>> enabledBehindDialogs;
+    /// What would have changed the device, and under what circumstances.
+    std::vector<std::string> writes;
+    /// The control that a key in the file list leaves the focus on.
+    std::vector<panel::ControlId> focused;
+    /// What is in the file of the report; none when it was not written.
+    std::optional<std::string> report;
+    /// Whether the host polls for phones at the end of the stretch.
+    bool isPolling = true;
     std::vector<std::string> log;
     /// At the end of the stretch; none when there is no view or no panel any more.
     std::optional<Picture> picture;

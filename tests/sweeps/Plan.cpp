@@ -18,6 +18,20 @@ const char* Name(Moment moment) {
     return "";
 }
 
+std::string Describe(const Answers& answers) {
+    const NetworkAnswer& network = answers.network;
+    std::string text = "answered: question " + std::to_string(answers.question) + ", command " +
+                       std::to_string(answers.command) + ", file " +
+                       std::to_string(static_cast<int>(answers.file)) + ", network " +
+                       (network.isConfirmed ? "OK" : "Cancel") + (network.usesDhcp ? " DHCP" : "") +
+                       (network.formatsFlash ? " Flash" : "") +
+                       (network.formatsPcCard ? " PCCard" : "") + ", offers";
+    for (const std::int32_t offer : answers.offers) {
+        text += " " + std::to_string(offer);
+    }
+    return text + "; ";
+}
+
 }
 
 std::string Describe(const Plan& plan) {
@@ -35,6 +49,9 @@ std::string Describe(const Plan& plan) {
     if (plan.intrusion) {
         text += std::string(plan.intrusion->event->name) + " " + Name(plan.intrusion->moment) +
                 std::to_string(plan.intrusion->number) + "; ";
+    }
+    if (plan.answers) {
+        text += Describe(*plan.answers);
     }
     return text.empty() ? "nothing goes wrong" : text;
 }

@@ -3,6 +3,7 @@
 #include "contract/Status.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,31 @@ inline constexpr const char* kLostDescription = "The device is gone.";
 
 /// How a message service fails that cannot show anything.
 inline constexpr auto kNoDisplayStatus = contract::Status::FromBits(0x80040155);
+
+/// What the user does with an open or save dialog: takes a file, cancels, or sees it fail. A file
+/// may lie in a folder that there is not, and options may be left unchosen.
+enum class FileChoice { Taken, Cancelled, Failed, InNoFolder, WithoutMethod, WithoutDestination };
+
+/// What the user does with the network dialog: changes address and description and confirms, unless
+/// it is said.
+struct NetworkAnswer {
+    bool isConfirmed = true;
+    bool usesDhcp = false;
+    bool formatsFlash = false;
+    bool formatsPcCard = false;
+};
+
+/// How the user answers whatever the panel asks in one run.
+struct Answers {
+    /// Yes, No, or 0 for a box that is left by Escape.
+    std::int32_t question = 6;
+    /// Of the offers of an update, one after the other; those that come later are declined.
+    std::vector<std::int32_t> offers = {};
+    /// From the file menu, if it has it; 0 leaves the menu.
+    int command = 0;
+    FileChoice file = FileChoice::Taken;
+    NetworkAnswer network = {};
+};
 
 /// Something that host or device do of their own accord.
 struct Event {
@@ -41,8 +67,8 @@ struct SpoiltCall {
 
 enum class Moment { BeforeCall, AfterCall, WhileBoxOpen, WhileDialogOpen };
 
-/// An event in the midst of things: inside the call of that number, or while the box or dialog of
-/// that number is open.
+/// An event in the midst of things: inside the call of that number, or while the box, or the dialog
+/// or menu, of that number is open.
 struct Intrusion {
     Moment moment;
     std::size_t number;
@@ -56,6 +82,8 @@ struct Plan {
     std::optional<std::size_t> lossInCall = {};
     bool failMessageService = false;
     std::optional<Intrusion> intrusion = {};
+    /// Those of the scenario, unless it is said.
+    std::optional<Answers> answers = {};
 };
 
 /// The plan in words.

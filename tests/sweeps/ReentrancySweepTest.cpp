@@ -24,7 +24,7 @@ protected:
     }
 
     static void FireInEachBox(CSweep& sweep, const Event& event, Plan plan) {
-        const std::size_t boxes = sweep.BoxesWith(plan);
+        const std::size_t boxes = sweep.OpenedWith(plan).boxes;
         for (std::size_t box = 1; box <= boxes; ++box) {
             plan.intrusion = Intrusion{Moment::WhileBoxOpen, box, &event};
             sweep.Run(plan);
@@ -60,11 +60,14 @@ TEST_P(ReentrancySweepTest, AnythingInsideAReportIsHandledAtOnce) {
     }
 }
 
+/// Outside Normal mode too, where an update is offered.
 TEST_P(ReentrancySweepTest, AnythingInsideAnOpenDialogIsHandledAtOnce) {
-    CSweep sweep = SweepInMode(kNormalMode);
-    for (const Event* event : EventsAndInterventions()) {
-        for (std::size_t dialog = 1; dialog <= sweep.Dialogs(); ++dialog) {
-            sweep.Run({.intrusion = Intrusion{Moment::WhileDialogOpen, dialog, event}});
+    for (const std::int32_t mode : {kNormalMode, kServiceMode}) {
+        CSweep sweep = SweepInMode(mode);
+        for (const Event* event : EventsAndInterventions()) {
+            for (std::size_t dialog = 1; dialog <= sweep.Dialogs(); ++dialog) {
+                sweep.Run({.intrusion = Intrusion{Moment::WhileDialogOpen, dialog, event}});
+            }
         }
     }
 }

@@ -61,6 +61,110 @@ const Scenario kScenarios[] = {
     {"Details", RunWithDevice, PressDetails, ArriveAgain, kKnownModels, kAllModes, true},
 };
 
+void DeleteByKey(IStage& stage) {
+    constexpr std::uint16_t kDeleteKey = 0x2E;
+    stage.SelectRows({1});
+    stage.PressKey(kDeleteKey);
+}
+
+void DeleteSeveral(IStage& stage) {
+    stage.SelectRows({0, 2});
+    stage.PressButton(panel::kDeleteButton);
+}
+
+void DeleteAll(IStage& stage) {
+    stage.SelectRows({0, 1, 2});
+    stage.PressButton(panel::kDeleteButton);
+}
+
+void UseMenuByKey(IStage& stage) {
+    constexpr std::uint16_t kContextMenuKey = 0x5D;
+    stage.SelectRows({1});
+    stage.PressKey(kContextMenuKey);
+}
+
+void UseMenuOnOne(IStage& stage) {
+    stage.SelectRows({1});
+    stage.RightClick();
+}
+
+void UseMenuOnTwo(IStage& stage) {
+    stage.SelectRows({0, 1});
+    stage.RightClick();
+}
+
+void PressUpdate(IStage& stage) { stage.PressButton(panel::kUpdateButton); }
+void PressReport(IStage& stage) { stage.PressButton(panel::kReportButton); }
+void PressReset(IStage& stage) { stage.PressButton(panel::kResetButton); }
+void PressNetwork(IStage& stage) { stage.PressButton(panel::kNetworkButton); }
+
+/// What a host does for its user after a command went wrong: the device arrives, and the command is
+/// given once more.
+template <void (*command)(IStage&)>
+void GiveAgain(IStage& stage) {
+    ArriveAgain(stage);
+    command(stage);
+}
+
+constexpr std::int32_t kYes = 6;
+
+Answers Choosing(int command) { return {.command = command}; }
+
+const std::vector<std::int32_t> kKrx8Models{1, 2};
+const std::vector<std::int32_t> kNetworkedModels{3, 4, 5};
+const std::vector<std::int32_t> kNormal{1};
+const std::vector<std::int32_t> kNormalAndService{1, 2};
+
+template <void (*command)(IStage&)>
+Scenario Command(const char* name, const std::vector<std::int32_t>& models,
+                 const std::vector<std::int32_t>& modes, const Answers& answers = {}) {
+    return {.name = name,
+            .setUp = RunWithDevice,
+            .action = command,
+            .again = GiveAgain<command>,
+            .models = models,
+            .modes = modes,
+            .needsFailedTest = true, // so that Details are enabled at first
+            .answers = answers};
+}
+
+/// The workstation's package is newer than the device's; the offer is accepted once.
+Scenario AcceptedOffer() {
+    Scenario scenario =
+        Command<Arrive>("AcceptedOffer", kKnownModels, kNormalAndService, {.offers = {kYes}});
+    scenario.setUp = PrepareArrival;
+    scenario.again = ArriveAgain;
+    scenario.packageVersion = "2.6.0";
+    return scenario;
+}
+
+const Scenario kCommands[] = {
+    Command<DeleteByKey>("DeleteByKey", kKnownModels, kNormalAndService),
+    Command<DeleteSeveral>("DeleteSeveral", kKnownModels, kNormal),
+    Command<DeleteAll>("DeleteAll", kKnownModels, kNormal),
+    Command<PressReset>("Reset", kKnownModels, kNormalAndService),
+    Command<PressReport>("Report", kKnownModels, kNormalAndService),
+    Command<PressUpdate>("Update", kKnownModels, kNormalAndService),
+    AcceptedOffer(),
+    Command<PressNetwork>("Network", kNetworkedModels, kNormalAndService),
+    Command<PressNetwork>("NetworkFormatting", kNetworkedModels, kNormalAndService,
+                          {.network = {.formatsFlash = true, .formatsPcCard = true}}),
+    Command<UseMenuOnOne>("PhoneFileUpload", kKnownModels, kNormal, Choosing(1)),
+    Command<UseMenuOnOne>("PhoneFileUploadInService", kKrx8Models, {2}, Choosing(1)),
+    Command<UseMenuByKey>("DeleteByMenu", kKnownModels, kNormal, Choosing(2)),
+    Command<UseMenuOnOne>("Move", kKnownModels, kNormal, Choosing(3)),
+    Command<UseMenuOnTwo>("MoveSeveral", kNetworkedModels, kNormal, Choosing(4)),
+    Command<UseMenuOnOne>("FpgaCodeUpload", kKrx8Models, kNormalAndService, Choosing(5)),
+    Command<UseMenuOnOne>("Krx10ImageUpload", {3}, kNormalAndService, Choosing(8)),
+    Command<UseMenuOnOne>("Krx20ImageUpload", {4, 5}, kNormalAndService, Choosing(9)),
+    Command<UseMenuByKey>("SelectAll", kKnownModels, kNormal, Choosing(10)),
+};
+
+simulator::StoredFile InRam(simulator::StoredFile file) {
+    file.location = simulator::kInRam;
+    return file;
+}
+
 simulator::StoredFile FileOnPcCard() {
     simulator::StoredFile file = support::File("omega.bin", 21, 70000, "4.4");
     file.location = simulator::kOnPcCard;
@@ -72,12 +176,26 @@ simulator::StoredFile FileOnPcCard() {
 
 std::span<const Scenario> Scenarios() { return kScenarios; }
 
+std::span<const Scenario> Commands() { return kCommands; }
+
+bool PollsAtFirst(const simulator::DeviceDescription& device) {
+    return device.mode != simulator::kServiceMode;
+}
+
 simulator::DeviceDescription MakeDevice(const Scenario& scenario, std::int32_t model,
                                         std::int32_t mode) {
     simulator::DeviceDescription device = support::HealthyDevice(model);
     device.mode = mode;
-    device.files = {support::File("alpha.fia", 19, 1, "1.1"), support::File("", 21, 2),
-                    support::File("Version.FIA", 22, 3, "2.5.13"), FileOnPcCard()};
+    device.files = {InRam(support::File("alpha.fia", 19, 1, "1.1")), support::File("", 21, 2),
+                    InRam(support::File("Version.FIA", 22, 3, "2.5.13")), FileOnPcCard()};
+    device.pcCard = simulator::PcCard{32000000};
+    device.software.security = "sec 7.08";
+    device.software.fpgaDriver = "fdrv 9.10";
+    device.software.mmcrDriver = "mmcr 1.12";
+    device.software.usbDeviceFunctionDriver = "udf 1.14";
+    device.software.usbHostControllerDriver = "uhc 1.16";
+    device.software.bootLoader = "loader 1.18";
+    device.software.serviceFpga = "sfpga 1.20";
     if (scenario.needsFailedTest) {
         device.selfTests[contract::SelfTest::Rs232] = 814;
     }

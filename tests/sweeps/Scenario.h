@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/DeviceDescription.h"
+#include "tests/sweeps/Plan.h"
 
 #include <cstdint>
 #include <span>
@@ -29,13 +30,24 @@ struct Scenario {
     bool needsFailedTest = false;
     /// Left out of the sweeps of events, as a scenario that another one contains.
     bool isContainedInAnother = false;
+    /// How the user answers.
+    Answers answers = {};
+    /// Of the update package on the workstation; that on the device is 2.5.13.
+    const char* packageVersion = "2.5.13";
 };
 
-/// Connect comes first.
+/// How a panel starts and shows its device. Connect comes first.
 std::span<const Scenario> Scenarios();
 
-/// The device that a scenario is played with: four files, one without a name, one
-/// "Version.FIA" in unusual letters.
+/// The commands that a user gives it.
+std::span<const Scenario> Commands();
+
+/// Whether a device's host polls for phones at first; not while it serves a device in Service mode,
+/// for a panel that must not switch on what was off.
+bool PollsAtFirst(const simulator::DeviceDescription& device);
+
+/// The device that a scenario is played with: four files, one without a name, one "Version.FIA" in
+/// unusual letters, two of them in RAM.
 simulator::DeviceDescription MakeDevice(const Scenario& scenario, std::int32_t model,
                                         std::int32_t mode);
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace sweeps {
 
@@ -49,6 +50,12 @@ public:
 
     // The user
     virtual void PressButton(panel::ControlId id) = 0;
+    /// Selects those rows of the file list that there are, and no other.
+    virtual void SelectRows(const std::vector<int>& rows) = 0;
+    /// Presses a key in the file list.
+    virtual void PressKey(std::uint16_t virtualKey) = 0;
+    /// Right-clicks the file list where it is selected, or below its rows.
+    virtual void RightClick() = 0;
 };
 
 }

@@ -3,21 +3,34 @@
 #include "interception/Operations.h"
 #include "tests/sweeps/Figures.h"
 
+#include <algorithm>
+
 namespace sweeps {
 
 CSweep::CSweep(const Scenario& scenario, std::int32_t model, std::int32_t mode)
     : m_scenario(scenario), m_device(MakeDevice(scenario, model, mode)) {
     ++TheFigures().scenarios;
-    CExpectation expected(m_device);
+    CExpectation expected(m_device, m_scenario.packageVersion);
     m_scenario.setUp(expected);
     static_cast<void>(expected.Take());
-    expected.Arrange({});
+    expected.Arrange(WithAnswers({}));
     m_scenario.action(expected);
     m_boxes = expected.Boxes();
+    m_dialogs = expected.Dialogs();
+    m_callsOfRefresh = expected.CallsOfRefresh();
+    m_prompts = expected.Prompts();
     const Observation seen = expected.Take();
     m_calls = seen.calls;
-    m_dialogs = seen.dialogs.size();
+    m_asksQuestion = std::ranges::count(seen.messages, 0x24u, &support::Shown::style) > 0;
     Run({});
+}
+
+bool CSweep::Shows(CExpectation::Prompt::Kind kind) const {
+    return std::ranges::find(m_prompts, kind, &CExpectation::Prompt::kind) != m_prompts.end();
+}
+
+bool CSweep::IsOfRefresh(std::size_t call) const {
+    return std::ranges::binary_search(m_callsOfRefresh, call);
 }
 
 bool CSweep::DeliversObject(std::size_t call) const {
@@ -52,7 +65,7 @@ void CSweep::Run(const Plan& plan) {
     }
     SCOPED_TRACE(Describe(plan));
     ++TheFigures().runs;
-    Pair pair(m_device);
+    Pair pair(m_device, m_scenario.packageVersion);
     Play(pair, {}, m_scenario.setUp);
     if (!m_undisturbed) {
         Compare(pair, "setting up");
@@ -63,17 +76,18 @@ void CSweep::Run(const Plan& plan) {
     EXPECT_EQ(pair.actual.CallsSpoilt(), pair.expected.CallsSpoilt());
     TheFigures().callsSpoilt += plan.intrusion ? plan.spoilt.size() : pair.expected.CallsSpoilt();
     TheFigures().events += plan.intrusion ? 1 : 0;
-    Compare(pair, "acting");
+    ExpectLeftAsFound(Compare(pair, "acting"), plan);
     PlayAgain(pair, plan);
     pair.actual.End();
 }
 
 void CSweep::Play(Pair& pair, const Plan& plan, void (*act)(IStage&)) {
-    pair.expected.Arrange(plan);
+    const Plan answered = WithAnswers(plan);
+    pair.expected.Arrange(answered);
     act(pair.expected);
-    pair.actual.Arrange(plan, pair.expected.Prompts());
+    pair.actual.Arrange(answered, pair.expected.Prompts());
     act(pair.actual);
-    TheFigures().promptsAnswered += pair.expected.Boxes();
+    TheFigures().promptsAnswered += pair.expected.Boxes() + pair.expected.Dialogs();
 }
 
 Observation CSweep::Compare(Pair& pair, const char* when) {
@@ -82,6 +96,16 @@ Observation CSweep::Compare(Pair& pair, const char* when) {
     EXPECT_TRUE(expected == actual) << "after " << when << ":\n" << Difference(expected, actual);
     EXPECT_EQ(pair.actual.CursorDepth(), 0) << "after " << when;
     return actual;
+}
+
+void CSweep::ExpectLeftAsFound(const Observation& seen, const Plan& plan) const {
+    if (seen.kept) {
+        EXPECT_TRUE(seen.kept->refreshAllowed);
+    }
+    // The call that switches polling on again may be the one that was spoilt.
+    if (plan.spoilt.empty()) {
+        EXPECT_EQ(seen.isPolling, PollsAtFirst(m_device));
+    }
 }
 
 void CSweep::PlayAgain(Pair& pair, const Plan& plan) {
@@ -104,12 +128,19 @@ void CSweep::PlayAgain(Pair& pair, const Plan& plan) {
     }
 }
 
-std::size_t CSweep::BoxesWith(const Plan& plan) const {
-    CExpectation expected(m_device);
+CSweep::Opened CSweep::OpenedWith(const Plan& plan) const {
+    CExpectation expected(m_device, m_scenario.packageVersion);
     m_scenario.setUp(expected);
-    expected.Arrange(plan);
+    expected.Arrange(WithAnswers(plan));
     m_scenario.action(expected);
-    return expected.Boxes();
+    return {expected.Boxes(), expected.Dialogs(), expected.BoxAfterFault()};
+}
+
+Plan CSweep::WithAnswers(Plan plan) const {
+    if (!plan.answers) {
+        plan.answers = m_scenario.answers;
+    }
+    return plan;
 }
 
 }

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,22 +26,35 @@ public:
     /// Plays the scenario undisturbed.
     CSweep(const Scenario& scenario, std::int32_t model, std::int32_t mode);
 
-    /// What the undisturbed scenario calls, and the boxes and dialogs that it opens.
+    /// What the undisturbed scenario calls, and the boxes, and the dialogs and menus, that it
+    /// opens.
     const std::vector<std::string_view>& Calls() const { return m_calls; }
     std::size_t Boxes() const { return m_boxes; }
     std::size_t Dialogs() const { return m_dialogs; }
+    bool Shows(CExpectation::Prompt::Kind kind) const;
+    bool AsksQuestion() const { return m_asksQuestion; }
+    bool IsInFirstMode() const { return m_device.mode == m_scenario.modes.front(); }
+    const Answers& UserAnswers() const { return m_scenario.answers; }
     bool DeliversObject(std::size_t call) const;
+    /// Whether that call belongs to a refresh or to a listing of the files.
+    bool IsOfRefresh(std::size_t call) const;
 
     /// Plays the scenario with `plan`; failures name scenario, model, mode and plan.
     void Run(const Plan& plan);
 
-    /// What opens in the scenario as `plan` disturbs it.
-    std::size_t BoxesWith(const Plan& plan) const;
+    /// What opens in the scenario as `plan` disturbs it: boxes, and dialogs and menus.
+    struct Opened {
+        std::size_t boxes;
+        std::size_t dialogs;
+        /// The number of the box that comes after the first call that was spoilt.
+        std::size_t boxAfterFault;
+    };
+    Opened OpenedWith(const Plan& plan) const;
 
 private:
     struct Pair {
-        explicit Pair(const simulator::DeviceDescription& device)
-            : expected(device), actual(device) {}
+        Pair(const simulator::DeviceDescription& device, const std::string& packageVersion)
+            : expected(device, packageVersion), actual(device, packageVersion) {}
 
         void ForgetWhatWasSeen() {
             static_cast<void>(expected.Take());
@@ -51,16 +65,22 @@ private:
         CSweepPanel actual;
     };
 
+    /// With the scenario's answers where it has none.
+    Plan WithAnswers(Plan plan) const;
     std::string Describe(const Plan& plan) const;
     void Play(Pair& pair, const Plan& plan, void (*act)(IStage&));
     Observation Compare(Pair& pair, const char* when);
+    void ExpectLeftAsFound(const Observation& seen, const Plan& plan) const;
     void PlayAgain(Pair& pair, const Plan& plan);
 
     const Scenario& m_scenario;
     const simulator::DeviceDescription m_device;
     std::vector<std::string_view> m_calls;
+    std::vector<std::size_t> m_callsOfRefresh;
     std::size_t m_boxes = 0;
     std::size_t m_dialogs = 0;
+    std::vector<CExpectation::Prompt> m_prompts;
+    bool m_asksQuestion = false;
     /// After the scenario has been played, undisturbed, and gone on.
     std::optional<Picture> m_undisturbed;
     std::optional<Kept> m_undisturbedKept;

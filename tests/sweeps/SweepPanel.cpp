@@ -1,21 +1,55 @@
 #include "tests/sweeps/SweepPanel.h"
 
 #include "interception/InterceptorChain.h"
-#include "panel/selftest/SelfTestTemplate.h"
+#include "panel/update/SWUpdateInfoTemplate.h"
+#include "tests/sweeps/Files.h"
 #include "tests/sweeps/OtherObjects.h"
+#include "tests/sweeps/Scenario.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <utility>
 
 namespace sweeps {
 
-CSweepPanel::CSweepPanel(const simulator::DeviceDescription& description)
+namespace {
+
+std::optional<std::string> TakeReport() {
+    std::ifstream file(ReportPath(), std::ios::binary);
+    if (!file) {
+        return std::nullopt;
+    }
+    const std::string text = (std::ostringstream() << file.rdbuf()).str();
+    file.close();
+    std::filesystem::remove(ReportPath());
+    return text;
+}
+
+}
+
+CSweepPanel::CSweepPanel(const simulator::DeviceDescription& description,
+                         const std::string& packageVersion)
     : m_device(simulator::CDevice::Create(description)),
+      m_writing(std::make_shared<support::CWritingDevice>(host.SubsystemAccess())),
+      m_access(m_writing),
       m_otherContext(InPlaceOf(host.Context())),
-      m_otherAccess(InPlaceOf(host.SubsystemAccess())),
+      m_otherAccess(InPlaceOf(m_access)),
       m_otherConnection(InPlaceOf(host.Connection())) {
     interception = interception::CInterception(std::make_shared<interception::CInterceptorChain>(
         interception::CInterceptorChain::Links{recorder, faults, m_loss}));
-    messageService->whileOpen = [this] { OnBoxOpen(); };
+    messageService->whileOpen = [this] { OnServiceBoxOpen(); };
+    m_writing->answer = [this](const std::string& call) {
+        NoteWrite(call);
+        return contract::kSuccess;
+    };
+    // Here each offer of an update is expected, or a mistake.
+    desktop->prompts.AnswerAlways(panel::kSWUpdateInfoTemplate.id, panel::kNoControl);
+    constexpr const char* kKey = "SOFTWARE\\Vantor Mobile Phones\\WstShared\\Common\\FlashUpdate";
+    desktop->registry.PutText(kKey, "FlashDir", "C:\\Package");
+    desktop->registry.PutText(kKey, "FlashVersion", packageVersion);
+    host.SetPollingEnabled(PollsAtFirst(description));
 }
 
 void CSweepPanel::Arrange(const Plan& plan, const std::vector<CExpectation::Prompt>& prompts) {
@@ -32,16 +66,13 @@ void CSweepPanel::Arrange(const Plan& plan, const std::vector<CExpectation::Prom
     messageService->status = plan.failMessageService ? kNoDisplayStatus : contract::kSuccess;
     m_boxesOpened = 0;
     m_dialogsOpened = 0;
+    m_answers = plan.answers.value_or(Answers());
     m_intrusion = plan.intrusion;
     if (m_intrusion) {
         Arrange(*m_intrusion);
     }
-    for (const CExpectation::Prompt prompt : prompts) {
-        if (prompt == CExpectation::Prompt::PlainBox) {
-            desktop->prompts.Answer(1, [this] { OnBoxOpen(); });
-        } else {
-            desktop->prompts.AnswerDialog([this](auto& dialog) { OnDialogOpen(dialog); });
-        }
+    for (const CExpectation::Prompt& prompt : prompts) {
+        Arrange(prompt);
     }
 }
 
@@ -64,28 +95,6 @@ void CSweepPanel::Arrange(const Intrusion& intrusion) {
     }
 }
 
-void CSweepPanel::OnBoxOpen() {
-    if (desktop->windows.PanelView()) {
-        m_behindBoxes.push_back(LookAtView());
-    }
-    Intrude(Moment::WhileBoxOpen, ++m_boxesOpened);
-}
-
-void CSweepPanel::OnDialogOpen(headless::CHeadlessView& dialog) {
-    DialogRows& rows = m_dialogs.emplace_back();
-    for (int row = 0; row < dialog.GetRowCount(panel::kSelfTestList); ++row) {
-        rows.emplace_back(dialog.GetCell(panel::kSelfTestList, row, 0),
-                          dialog.GetCell(panel::kSelfTestList, row, 1));
-    }
-    Intrude(Moment::WhileDialogOpen, ++m_dialogsOpened);
-}
-
-void CSweepPanel::Intrude(Moment moment, std::size_t number) {
-    if (m_intrusion && m_intrusion->moment == moment && m_intrusion->number == number) {
-        m_intrusion->event->raise(*this);
-    }
-}
-
 // What is seen
 
 Observation CSweepPanel::Take() {
@@ -98,7 +107,14 @@ Observation CSweepPanel::Take() {
     seen.boxes.assign(boxes.begin() + static_cast<std::ptrdiff_t>(m_boxesTaken), boxes.end());
     m_boxesTaken = boxes.size();
     seen.behindBoxes = std::exchange(m_behindBoxes, {});
+    seen.enabledBehindDialogs = std::exchange(m_enabledBehindDialogs, {});
     seen.dialogs = std::exchange(m_dialogs, {});
+    seen.writes = std::exchange(m_writes, {});
+    seen.focused = std::exchange(m_focused, {});
+    if (std::exchange(m_mayHaveSaved, false)) {
+        seen.report = TakeReport();
+    }
+    seen.isPolling = host.PollingEnabled();
     if (desktop->windows.PanelView()) {
         seen.log = Log();
         seen.picture = LookAtView();
@@ -115,9 +131,7 @@ Picture CSweepPanel::LookAtView() {
     for (const panel::ControlId id : kTextControls) {
         picture.texts[id] = view.GetText(id);
     }
-    for (const panel::ControlId id : kSwitchedControls) {
-        picture.enabled[id] = view.IsEnabled(id);
-    }
+    picture.enabled = LookWhatIsEnabled();
     picture.isCloseVisible = view.IsVisible(panel::kCloseButton);
     for (int row = 0; row < RowCount(); ++row) {
         picture.rows.push_back({Row(row), view.GetRowKey(panel::kFileList, row)});
@@ -125,6 +139,14 @@ Picture CSweepPanel::LookAtView() {
     picture.selection = view.GetSelectedRows(panel::kFileList);
     picture.mark = view.GetSelectionMark(panel::kFileList);
     return picture;
+}
+
+std::map<panel::ControlId, bool> CSweepPanel::LookWhatIsEnabled() {
+    std::map<panel::ControlId, bool> enabled;
+    for (const panel::ControlId id : kSwitchedControls) {
+        enabled[id] = View().IsEnabled(id);
+    }
+    return enabled;
 }
 
 Kept CSweepPanel::LookAtState() const {
@@ -168,7 +190,7 @@ void CSweepPanel::CreateView() {
 
 void CSweepPanel::SetSubsystemAccess() {
     if (panel) {
-        Note(panel->SetSubsystemAccess(interception.Wrap(host.SubsystemAccess())));
+        Note(panel->SetSubsystemAccess(interception.Wrap(m_access)));
     }
 }
 
@@ -231,6 +253,35 @@ void CSweepPanel::LoseDevice() {
 void CSweepPanel::PressButton(panel::ControlId id) {
     if (panel && desktop->windows.PanelView()) {
         View().Press(id);
+    }
+}
+
+void CSweepPanel::SelectRows(const std::vector<int>& rows) {
+    if (!desktop->windows.PanelView()) {
+        return;
+    }
+    for (int row = 0; row < RowCount(); ++row) {
+        View().SelectRow(panel::kFileList, row, std::ranges::find(rows, row) != rows.end());
+    }
+    for (const int row : rows) {
+        View().SetSelectionMark(panel::kFileList, row);
+    }
+}
+
+void CSweepPanel::PressKey(std::uint16_t virtualKey) {
+    if (!panel || !desktop->windows.PanelView() ||
+        !View().PressKeyInList(panel::kFileList, virtualKey)) {
+        return;
+    }
+    if (desktop->windows.PanelView() && View().IsEnabled(panel::kFileList)) {
+        m_focused.push_back(View().GetFocus());
+    }
+}
+
+void CSweepPanel::RightClick() {
+    if (panel && desktop->windows.PanelView()) {
+        const auto selected = View().GetSelectedRows(panel::kFileList);
+        View().RightClick(panel::kFileList, selected.empty() ? panel::kNoRow : selected.front());
     }
 }
 

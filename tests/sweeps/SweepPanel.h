@@ -1,6 +1,8 @@
 #pragma once
 
+#include "frontend/headless/HeadlessFileDialog.h"
 #include "tests/support/PanelFixture.h"
+#include "tests/support/WritingDevice.h"
 #include "tests/sweeps/DeviceLoss.h"
 #include "tests/sweeps/Expectation.h"
 #include "tests/sweeps/Observation.h"
@@ -8,7 +10,9 @@
 #include "tests/sweeps/Stage.h"
 
 #include <cstddef>
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace sweeps {
@@ -16,7 +20,8 @@ namespace sweeps {
 /// The stage with the real panel on it: a fixture that is made anew for every run inside one test.
 class CSweepPanel final : public support::PanelFixture, public IStage {
 public:
-    explicit CSweepPanel(const simulator::DeviceDescription& description);
+    /// On a workstation that has an update package of that version.
+    CSweepPanel(const simulator::DeviceDescription& description, const std::string& packageVersion);
 
     /// Lets things go wrong from here on, and has `prompts` answered.
     void Arrange(const Plan& plan, const std::vector<CExpectation::Prompt>& prompts);
@@ -48,6 +53,9 @@ public:
     void InsertDevice() override;
     void LoseDevice() override;
     void PressButton(panel::ControlId id) override;
+    void SelectRows(const std::vector<int>& rows) override;
+    void PressKey(std::uint16_t virtualKey) override;
+    void RightClick() override;
 
 private:
     void TestBody() override {}
@@ -55,24 +63,38 @@ private:
     void Note(contract::Status status) { m_statuses.push_back(status); }
     void Spoil(const SpoiltCall& spoilt);
     void Arrange(const Intrusion& intrusion);
+    void Arrange(const CExpectation::Prompt& prompt);
+    void NoteWrite(const std::string& call);
     void OnBoxOpen();
-    void OnDialogOpen(headless::CHeadlessView& dialog);
+    void OnServiceBoxOpen();
+    void OnDialogOpen(DialogRows rows);
+    void AnswerNetwork(headless::CHeadlessView& dialog);
+    void AnswerFileDialog(headless::CHeadlessFileDialog& dialog);
     void Intrude(Moment moment, std::size_t number);
     Picture LookAtView();
+    std::map<panel::ControlId, bool> LookWhatIsEnabled();
     Kept LookAtState() const;
 
     const std::shared_ptr<simulator::CDevice> m_device;
+    const std::shared_ptr<support::CWritingDevice> m_writing;
+    const std::shared_ptr<contract::ISubsystemAccess> m_access;
     const std::shared_ptr<contract::IContext> m_otherContext;
     const std::shared_ptr<contract::ISubsystemAccess> m_otherAccess;
     const std::shared_ptr<contract::IConnection> m_otherConnection;
     const std::shared_ptr<CDeviceLoss> m_loss = std::make_shared<CDeviceLoss>();
     std::optional<Intrusion> m_intrusion;
+    Answers m_answers;
     std::size_t m_boxesOpened = 0;
     std::size_t m_dialogsOpened = 0;
     std::size_t m_boxesTaken = 0;
     std::vector<contract::Status> m_statuses;
     std::vector<Picture> m_behindBoxes;
+    std::vector<std::map<panel::ControlId, bool>> m_enabledBehindDialogs;
     std::vector<DialogRows> m_dialogs;
+    /// A file dialog has been shown.
+    bool m_mayHaveSaved = false;
+    std::vector<std::string> m_writes;
+    std::vector<panel::ControlId> m_focused;
 };
 
 }

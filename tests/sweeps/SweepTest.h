@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <ostream>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -25,15 +26,19 @@ struct Setting {
     }
 };
 
-inline std::vector<Setting> Settings() {
+inline std::vector<Setting> SettingsOf(std::span<const Scenario> scenarios) {
     std::vector<Setting> settings;
-    for (const Scenario& scenario : Scenarios()) {
+    for (const Scenario& scenario : scenarios) {
         for (const std::int32_t model : scenario.models) {
             settings.push_back({&scenario, model});
         }
     }
     return settings;
 }
+
+inline std::vector<Setting> Settings() { return SettingsOf(Scenarios()); }
+
+inline std::vector<Setting> CommandSettings() { return SettingsOf(Commands()); }
 
 /// Without the scenarios that another one contains.
 inline std::vector<Setting> SettingsWithoutRepetition() {

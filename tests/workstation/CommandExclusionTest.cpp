@@ -39,7 +39,9 @@ simulator::DeviceDescription SlowDevice() {
 
 simulator::DeviceDescription DeviceThatGetsABox() {
     simulator::DeviceDescription device = HealthyDevice();
-    device.mode = simulator::kServiceMode;
+    simulator::Fault fault;
+    fault.operation = "ProgrammingDeviceControl.GetSoftwareInfo";
+    device.faults.push_back(fault);
     return device;
 }
 

@@ -5,7 +5,8 @@
 #include <memory>
 #include <string>
 
-/// A healthy device of the kind that the sample KRX-20 is, in memory.
+/// A healthy device of the kind that the sample KRX-20 is, in memory. The last of its files is
+/// "version.fia", without which every refresh would offer an update.
 inline simulator::DeviceDescription HealthyDevice(int fileCount = 2) {
     simulator::DeviceDescription description;
     description.hardwareVersion = "HW 3";
@@ -19,7 +20,8 @@ inline simulator::DeviceDescription HealthyDevice(int fileCount = 2) {
     description.network.ipAddress = "192.0.2.7";
     description.network.macAddress = "00-00-5E-00-53-07";
     for (int i = 1; i <= fileCount; ++i) {
-        description.files.push_back({"file" + std::to_string(i) + ".fg",
+        const bool isLast = i == fileCount;
+        description.files.push_back({isLast ? "version.fia" : "file" + std::to_string(i) + ".fg",
                                      21,
                                      i,
                                      "1.0",

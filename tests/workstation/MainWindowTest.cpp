@@ -265,7 +265,7 @@ TEST_F(MainWindowTest, PictureHasEveryPartOfThePanel) {
     EXPECT_EQ(picture.columns[4].alignment, panel::Alignment::Right);
     EXPECT_EQ(picture.columns[5].alignment, panel::Alignment::Left);
     ASSERT_THAT(picture.rows, SizeIs(2));
-    EXPECT_EQ(picture.rows[1][0], "file2.fg");
+    EXPECT_EQ(picture.rows[1][0], "version.fia");
     EXPECT_EQ(picture.logTitle, "Progress Info");
     ASSERT_FALSE(picture.logLines.empty());
 }

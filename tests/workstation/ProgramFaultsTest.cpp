@@ -21,11 +21,14 @@ protected:
     QString Device(const char* knobs) {
         EXPECT_TRUE(QDir(m_folder.path()).mkpath("device/files"));
         Write(Path("device/files/a.fg"), "content");
+        Write(Path("device/files/version.fia"), "1.0");
         Write(Path("device/device.json"), (std::string(R"({
   "model": "KRX-20", "mode": "Normal", "serialNumber": 7, "hardwareVersion": "C1.2",
   "memory": { "ramBytes": 1000, "flashBytes": 2000 },
   "network": { "useDhcp": false, "ipAddress": "192.0.2.20" },
-  "files": [ { "name": "a.fg", "type": "algorithm", "id": 1, "location": "Flash" } ],
+  "files": [ { "name": "a.fg", "type": "algorithm", "id": 1, "location": "Flash" },
+             { "name": "version.fia", "type": "mcuSoftware", "id": 2, "version": "1.0",
+               "location": "Flash" } ],
 )") + knobs + "\n}\n")
                                               .c_str());
         return Path("device");
@@ -38,6 +41,7 @@ constexpr char kFailingCall[] =
 constexpr char kBoxOfTheFailingCall[] = "Box \"Prommer Maintenance\":\n"
                                         "    Software Info request failed\n"
                                         "    HRESULT 0x80004005 (-2147467259)\n"
+                                        "    The cable is broken\n"
                                         "Answered: OK\n";
 
 TEST_F(ProgramFaultsTest, FailingCallIsToldAndAnsweredAboveTheText) {
@@ -99,7 +103,7 @@ TEST_F(ProgramFaultsTest, MissingStoredFileIsRefused) {
 
 TEST_F(ProgramFaultsTest, UnknownKeyIsRefused) {
     ExpectRefusal({"--device", Device(R"("colour": "red")"), "--snapshot", Path("window.png")},
-                  PathText("device/device.json") + ":6: \"colour\" is not a known key");
+                  PathText("device/device.json") + ":8: \"colour\" is not a known key");
 }
 
 }

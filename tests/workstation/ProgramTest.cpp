@@ -209,7 +209,7 @@ TEST_F(ProgramTest, BoxIsToldAndAnswered) {
                 StartsWith("Box \"Prommer Maintenance\":\n"
                            "    The Programming Device is not in Normal mode and therefore some "
                            "information about the Programming Device can be incorrect.\n"));
-    EXPECT_THAT(outcome.output, HasSubstr("\nAnswered: OK\nKRX-8 Info\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("\nAnswered: closed\nKRX-8 Info\n"));
 }
 
 }

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 #include <string>
@@ -44,9 +45,17 @@ TEST_F(PromptAnswererTest, EachLineOfABoxIsIndented) {
     EXPECT_THAT(m_told, ElementsAre("Box \"Caption\":\n    First\n    second\nAnswered: OK\n"));
 }
 
-TEST_F(PromptAnswererTest, BoxWithOtherButtonsIsClosed) {
+TEST_F(PromptAnswererTest, BoxWithOtherButtonsIsToldAndClosed) {
     EXPECT_EQ(Ask("Text", QMessageBox::Retry | QMessageBox::Cancel), QDialog::Rejected);
-    EXPECT_THAT(m_told, IsEmpty());
+    EXPECT_THAT(m_told, ElementsAre("Box \"Caption\":\n    Text\nAnswered: closed\n"));
+}
+
+TEST_F(PromptAnswererTest, DetailsAreToldBelowTheText) {
+    QMessageBox box(QMessageBox::Critical, "Caption", "Text", QMessageBox::Ok);
+    box.setDetailedText("HRESULT\nreason");
+    box.exec();
+    EXPECT_THAT(m_told, ElementsAre("Box \"Caption\":\n    Text\n    HRESULT\n    reason\n"
+                                    "Answered: OK\n"));
 }
 
 TEST_F(PromptAnswererTest, BoxesInARowAreAllAnswered) {
@@ -56,10 +65,15 @@ TEST_F(PromptAnswererTest, BoxesInARowAreAllAnswered) {
                                     "Box \"Caption\":\n    Second\nAnswered: OK\n"));
 }
 
-TEST_F(PromptAnswererTest, DialogIsRejected) {
+TEST_F(PromptAnswererTest, DialogIsToldAndRejected) {
     QDialog dialog;
+    dialog.setWindowTitle("Offer");
+    QLabel first("First", &dialog);
+    QLabel hidden("Hidden", &dialog);
+    hidden.hide();
+    QLabel second("Second", &dialog);
     EXPECT_EQ(dialog.exec(), QDialog::Rejected);
-    EXPECT_THAT(m_told, IsEmpty());
+    EXPECT_THAT(m_told, ElementsAre("Box \"Offer\":\n    First\n    Second\nAnswered: closed\n"));
 }
 
 TEST_F(PromptAnswererTest, OtherWindowIsClosedAndTheMainOneIsNot) {

@@ -30,6 +30,11 @@ inline constexpr panel::ControlId kHiddenButton = 311;
 inline constexpr panel::ControlId kSecondButton = 312;
 inline constexpr panel::ControlId kDisabledList = 313;
 inline constexpr panel::ControlId kCentred = 314;
+inline constexpr panel::ControlId kEdit = 315;
+inline constexpr panel::ControlId kAddress = 316;
+inline constexpr panel::ControlId kCheck = 317;
+inline constexpr panel::ControlId kChoices = 318;
+inline constexpr panel::ControlId kIcon = 319;
 /// An id that no control has.
 inline constexpr panel::ControlId kMissing = 999;
 
@@ -38,6 +43,12 @@ extern const panel::DialogTemplate kSmallTemplate;
 /// A field (401), OK (1, default) and Cancel (2, hidden).
 extern const panel::DialogTemplate kDialogTemplate;
 inline constexpr panel::ControlId kDialogField = 401;
+/// One control of each kind that a user fills in (421 to 424), OK (1, default) and Cancel (2).
+extern const panel::DialogTemplate kFormTemplate;
+inline constexpr panel::ControlId kFormEdit = 421;
+inline constexpr panel::ControlId kFormAddress = 422;
+inline constexpr panel::ControlId kFormCheck = 423;
+inline constexpr panel::ControlId kFormChoices = 424;
 /// A label only.
 extern const panel::DialogTemplate kBareDialogTemplate;
 

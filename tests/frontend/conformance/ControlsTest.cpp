@@ -33,8 +33,9 @@ TEST_F(ControlsTest, InitFindsTheControlsOfTheTemplate) {
 
 TEST_F(ControlsTest, CaptureReturnsIdOfEachControlOfThePanel) {
     Show(panel::kPanelTemplate);
-    for (const panel::ControlTemplate& control : panel::kPanelTemplate.controls)
+    for (const panel::ControlTemplate& control : panel::kPanelTemplate.controls) {
         EXPECT_EQ(View().Capture(control.id), control.id);
+    }
 }
 
 TEST_F(ControlsTest, CaptureOfMissingControlReturnsNoControl) {
@@ -58,11 +59,12 @@ TEST_F(ControlsTest, TemplateTextsAreShownWithoutMnemonicMark) {
     EXPECT_EQ(User().ShownText(kCaption), "Caption");
     EXPECT_EQ(User().ShownText(kSecondButton), "Second");
     EXPECT_EQ(User().ShownText(kField), "initial");
+    EXPECT_EQ(User().ShownText(kCheck), "Tick");
 }
 
 TEST_F(ControlsTest, SetTextShowsAndReturnsItOnEveryTextControl) {
     Show();
-    for (panel::ControlId id : {kFrame, kCaption, kCentred, kField, kFirstButton}) {
+    for (panel::ControlId id : {kFrame, kCaption, kCentred, kField, kFirstButton, kEdit, kCheck}) {
         View().SetText(id, "new text");
         EXPECT_EQ(View().GetText(id), "new text") << id;
         EXPECT_EQ(User().ShownText(id), "new text") << id;
@@ -85,7 +87,7 @@ TEST_F(ControlsTest, SetTextEmptyEmptiesTheField) {
 
 TEST_F(ControlsTest, AmpersandSetAtRunTimeIsShown) {
     Show();
-    for (panel::ControlId id : {kFrame, kCaption, kCentred, kField, kFirstButton}) {
+    for (panel::ControlId id : {kFrame, kCaption, kCentred, kField, kFirstButton, kEdit, kCheck}) {
         View().SetText(id, "R&D && more");
         EXPECT_EQ(View().GetText(id), "R&D && more") << id;
         EXPECT_EQ(User().ShownText(id), "R&D && more") << id;
@@ -178,6 +180,11 @@ TEST_F(ControlsTest, VerbsOnAnyControlNeverCallTheHandler) {
         View().SetFocus(control.id);
         View().Move(control.id, {1, 2, 30, 40});
         View().SetTextLimit(control.id, 10);
+        View().SetChecked(control.id, true);
+        View().SetAddress(control.id, 0x01020304);
+        View().AddChoice(control.id, "choice", 1);
+        View().SelectChoice(control.id, 0);
+        View().SetIcon(control.id, panel::StandardIcon::Warning);
     }
     EXPECT_EQ(m_handler.events, Events{});
 }

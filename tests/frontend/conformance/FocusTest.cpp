@@ -80,22 +80,23 @@ TEST_F(FocusTest, TabFollowsTheTemplateAndSkipsUnusableControls) {
     FillList(kManyList, 3);
     View().SetFocus(kManyList);
     std::vector<panel::ControlId> order;
-    for (int step = 0; step < 7; ++step) {
+    for (int step = 0; step < 11; ++step) {
         User().PressTab();
         order.push_back(View().GetFocus());
     }
-    const std::vector<panel::ControlId> expected = {kOneList, kLog,    kFirstButton, kSecondButton,
-                                                    kField,   kNumber, kManyList};
+    const std::vector<panel::ControlId> expected = {kOneList, kLog,     kFirstButton, kSecondButton,
+                                                    kEdit,    kAddress, kCheck,       kChoices,
+                                                    kField,   kNumber,  kManyList};
     EXPECT_EQ(order, expected);
 }
 
 TEST_F(FocusTest, HelpRequestCarriesContextOfTheFocusedControl) {
     Show();
-    for (panel::ControlId id : {kField, kManyList, kFirstButton}) {
+    for (panel::ControlId id : {kField, kManyList, kFirstButton, kAddress}) {
         View().SetFocus(id);
         User().RequestHelp();
     }
-    EXPECT_EQ(m_handler.events, (Events{"help 77", "help 78", "help 79"}));
+    EXPECT_EQ(m_handler.events, (Events{"help 77", "help 78", "help 79", "help 80"}));
 }
 
 TEST_F(FocusTest, HelpRequestOnControlWithoutContextCarriesZero) {

@@ -1,14 +1,18 @@
 #pragma once
 
 #include "panel/control/DialogTemplate.h"
+#include "panel/control/FileDialog.h"
 #include "panel/control/Geometry.h"
+#include "panel/control/PopupMenu.h"
 #include "panel/control/Toolkit.h"
 #include "panel/control/View.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace conformance {
@@ -40,6 +44,14 @@ struct ShownBox {
     friend bool operator==(const ShownBox&, const ShownBox&) = default;
 };
 
+/// A pop-up menu as the user saw it; "&" marks mnemonics.
+struct ShownMenu {
+    std::vector<panel::MenuItem> items;
+    panel::Point corner; ///< on the screen, the upper left one
+
+    friend bool operator==(const ShownMenu&, const ShownMenu&) = default;
+};
+
 /// Eyes and hands of the user on one open view.
 ///
 /// The hands go the way of real input as far as the front end has one (mouse and key events sent
@@ -63,6 +75,13 @@ public:
     virtual bool ClickRow(panel::ControlId list, int row, Modifier modifier = Modifier::None) = 0;
     /// The same with the right button; kNoRow clicks the empty space below the rows.
     virtual bool RightClickRow(panel::ControlId list, int row) = 0;
+    /// Clicks a check box.
+    virtual bool Toggle(panel::ControlId box) = 0;
+    /// Types over whatever an edit field holds.
+    virtual bool TypeText(panel::ControlId field, std::string_view text) = 0;
+    virtual bool TypeAddress(panel::ControlId field, std::uint32_t address) = 0;
+    /// Chooses from a drop-down list by the text of the choice.
+    virtual bool Choose(panel::ControlId list, std::string_view text) = 0;
     /// F1.
     virtual void RequestHelp() = 0;
     /// Moves the focus to the next control of the tab order.
@@ -82,10 +101,33 @@ public:
     virtual std::string ShownCell(panel::ControlId list, int row, int column) = 0;
     virtual bool IsRowInSight(panel::ControlId list, int row) = 0;
     virtual ShownProgress Progress(panel::ControlId bar) = 0;
+    virtual bool IsShownChecked(panel::ControlId box) = 0;
+    /// The texts of a drop-down list.
+    virtual std::vector<std::string> ShownChoices(panel::ControlId list) = 0;
+    virtual std::optional<panel::StandardIcon> ShownIcon(panel::ControlId id) = 0;
     /// The controls from the lowest to the topmost.
     virtual std::vector<panel::ControlId> StackingOrder() = 0;
     /// Where a control is in the coordinates of OnListRightClick.
     virtual panel::Rectangle ScreenRectangle(panel::ControlId id) = 0;
+};
+
+/// Eyes and hands of the user on an open file dialog.
+class IFileDialogUser {
+public:
+    virtual ~IFileDialogUser() = default;
+
+    /// The user of the controls of our own in it.
+    virtual IViewUser& Options() = 0;
+    /// Types a path over what stands there and presses the button that takes it. False when the
+    /// dialog stays open.
+    virtual bool Accept(const std::string& path) = 0;
+    virtual void Cancel() = 0;
+
+    virtual std::string ShownTitle() = 0;
+    /// The name that is proposed, without a folder.
+    virtual std::string ShownName() = 0;
+    /// The descriptions of the file types to choose from.
+    virtual std::vector<std::string> ShownFilters() = 0;
 };
 
 /// What a front end offers to be tested: every executable that links the suite defines MakeDriver.
@@ -118,8 +160,15 @@ public:
     /// The next prompt is a dialog: `act` runs while it is shown. A dialog that is open thereafter
     /// is closed with Escape and, if it does not heed that, ended with result 2.
     virtual void ExpectDialog(std::function<void(IViewUser&)> act) = 0;
+    /// The next prompt is a pop-up menu: `whileOpen` runs while it is shown, then the item with
+    /// that command is clicked with the left button, or none for kNoCommand.
+    virtual void ExpectMenu(int command, std::function<void()> whileOpen = {}) = 0;
+    /// The next prompt is a file dialog: `act` runs while it is shown. A dialog that is open
+    /// thereafter is cancelled.
+    virtual void ExpectFileDialog(std::function<void(IFileDialogUser&)> act) = 0;
     /// The boxes shown so far.
     virtual std::vector<ShownBox> Boxes() = 0;
+    virtual std::vector<ShownMenu> Menus() = 0;
 
     virtual bool IsWaitCursorShown() = 0;
     virtual bool IsHelpViewerShown() = 0;

@@ -1,3 +1,4 @@
+#include "frontend/headless/HeadlessFileDialog.h"
 #include "frontend/headless/HeadlessToolkit.h"
 #include "tests/frontend/conformance/FrontEndDriver.h"
 
@@ -15,8 +16,9 @@ using panel::ControlId;
 conformance::ShownBox AsShown(const headless::ShownBox& box) {
     conformance::ShownBox shown{box.text, box.caption, box.style};
     for (std::size_t end = shown.text.find("\r\n"); end != std::string::npos;
-         end = shown.text.find("\r\n", end))
+         end = shown.text.find("\r\n", end)) {
         shown.text.erase(end, 1);
+    }
     return shown;
 }
 
@@ -33,6 +35,16 @@ public:
         return m_view.ClickRow(list, row, static_cast<headless::Modifier>(modifier));
     }
     bool RightClickRow(ControlId list, int row) override { return m_view.RightClick(list, row); }
+    bool Toggle(ControlId box) override { return m_view.Toggle(box); }
+    bool TypeText(ControlId field, std::string_view text) override {
+        return m_view.TypeText(field, text);
+    }
+    bool TypeAddress(ControlId field, std::uint32_t address) override {
+        return m_view.TypeAddress(field, address);
+    }
+    bool Choose(ControlId list, std::string_view text) override {
+        return m_view.Choose(list, text);
+    }
     void RequestHelp() override { m_view.RequestHelp(); }
     void PressTab() override { m_view.PressTab(); }
     void PressReturn() override { m_view.PressReturn(); }
@@ -43,8 +55,9 @@ public:
     std::string ShownText(ControlId id) override { return m_view.GetText(id); }
     std::vector<conformance::ShownColumn> ShownColumns(ControlId list) override {
         std::vector<conformance::ShownColumn> shown;
-        for (const headless::HeadlessColumn& column : m_view.Columns(list))
+        for (const headless::HeadlessColumn& column : m_view.Columns(list)) {
             shown.push_back({column.heading, column.widthPixels, column.alignment});
+        }
         return shown;
     }
     std::string ShownCell(ControlId list, int row, int column) override {
@@ -55,6 +68,9 @@ public:
         const headless::HeadlessProgress progress = m_view.Progress(bar);
         return {progress.maximum, progress.position};
     }
+    bool IsShownChecked(ControlId box) override { return m_view.IsChecked(box); }
+    std::vector<std::string> ShownChoices(ControlId list) override { return m_view.Choices(list); }
+    std::optional<panel::StandardIcon> ShownIcon(ControlId id) override { return m_view.Icon(id); }
     std::vector<ControlId> StackingOrder() override { return m_view.StackingOrder(); }
     panel::Rectangle ScreenRectangle(ControlId id) override { return m_view.ScreenRectangle(id); }
 
@@ -62,11 +78,36 @@ private:
     headless::CHeadlessView& m_view;
 };
 
+class CHeadlessFileDialogUser : public conformance::IFileDialogUser {
+public:
+    CHeadlessFileDialogUser(headless::CHeadlessFileDialog& dialog, IViewUser* options)
+        : m_dialog(dialog), m_options(options) {}
+
+    IViewUser& Options() override { return *m_options; }
+    bool Accept(const std::string& path) override { return m_dialog.Accept(path); }
+    void Cancel() override { m_dialog.Cancel(); }
+
+    std::string ShownTitle() override { return m_dialog.Dialog().title; }
+    std::string ShownName() override { return m_dialog.Dialog().fileName; }
+    std::vector<std::string> ShownFilters() override {
+        std::vector<std::string> shown;
+        for (const panel::FileFilter& filter : m_dialog.Dialog().filters) {
+            shown.push_back(filter.description);
+        }
+        return shown;
+    }
+
+private:
+    headless::CHeadlessFileDialog& m_dialog;
+    IViewUser* m_options;
+};
+
 class CHeadlessFrontEndDriver : public conformance::IFrontEndDriver {
 public:
     ~CHeadlessFrontEndDriver() override {
-        for (const std::string& prompt : m_desktop->prompts.UnexpectedPrompts())
+        for (const std::string& prompt : m_desktop->prompts.UnexpectedPrompts()) {
             ADD_FAILURE() << "unexpected " << prompt;
+        }
         EXPECT_EQ(m_desktop->prompts.PendingAnswers(), 0u);
     }
 
@@ -95,6 +136,23 @@ public:
     void ExpectDialog(std::function<void(IViewUser&)> act) override {
         m_desktop->prompts.AnswerDialog(
             [this, act](headless::CHeadlessView& view) { act(UserOf(view)); });
+    }
+    void ExpectMenu(int command, std::function<void()> whileOpen) override {
+        m_desktop->prompts.AnswerMenu(command, std::move(whileOpen));
+    }
+    void ExpectFileDialog(std::function<void(conformance::IFileDialogUser&)> act) override {
+        m_desktop->prompts.AnswerFileDialog([this, act](headless::CHeadlessFileDialog& dialog) {
+            CHeadlessFileDialogUser user(dialog,
+                                         dialog.Options() ? &UserOf(*dialog.Options()) : nullptr);
+            act(user);
+        });
+    }
+    std::vector<conformance::ShownMenu> Menus() override {
+        std::vector<conformance::ShownMenu> menus;
+        for (const headless::ShownMenu& menu : m_desktop->prompts.Menus()) {
+            menus.push_back({menu.items, menu.screen});
+        }
+        return menus;
     }
     std::vector<conformance::ShownBox> Boxes() override {
         std::vector<conformance::ShownBox> boxes;

@@ -1,6 +1,7 @@
 #include "tests/frontend/qt/PromptHands.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QPointer>
 #include <QTest>
 
@@ -13,6 +14,11 @@ namespace {
 constexpr int kLookMs = 5;
 constexpr const char* kSeen = "seenByPromptHands";
 
+QWidget* FindPrompt() {
+    auto* const menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+    return menu ? menu : QApplication::activeModalWidget();
+}
+
 }
 
 CPromptHands::CPromptHands() {
@@ -23,7 +29,7 @@ CPromptHands::CPromptHands() {
 // The answer runs from a timer of its own: inside this one's slot the timer would be still, and a
 // prompt opened by the answer would never be seen.
 void CPromptHands::Look() {
-    QWidget* const prompt = QApplication::activeModalWidget();
+    QWidget* const prompt = FindPrompt();
     if (!prompt || !prompt->isVisible() || prompt->property(kSeen).toBool()) {
         return;
     }

@@ -11,16 +11,17 @@
 
 namespace qttests {
 
-/// Answers modal windows: each in the order expected, while the code under test waits in it.
+/// Answers modal windows and menus: each in the order expected, while the code under test waits in
+/// it.
 ///
-/// Looks for a new modal window every few milliseconds. One that nobody expected, or expected to be
+/// Looks for a new one every few milliseconds. One that nobody expected, or expected to be
 /// of another class, is written down and dismissed with Escape, so that a test ends rather than
 /// hangs.
 class CPromptHands final : public QObject {
 public:
     CPromptHands();
 
-    /// The next modal window is a `Window`; `act` runs while it is open.
+    /// The next modal window or menu is a `Window`; `act` runs while it is open.
     template <class Window>
     void Expect(std::function<void(Window&)> act) {
         m_expected.push_back([act = std::move(act)](QWidget& prompt) {

@@ -1,11 +1,15 @@
 #include "tests/frontend/qt/QtFrontEndDriver.h"
 
 #include "frontend/qt/QtView.h"
+#include "tests/frontend/qt/FileDialogUser.h"
+#include "tests/frontend/qt/MenuUser.h"
 #include "tests/frontend/qt/QtViewUser.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QDialog>
+#include <QFileDialog>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -107,6 +111,25 @@ void CQtFrontEndDriver::ExpectDialog(std::function<void(conformance::IViewUser&)
         if (open && open->isVisible()) {
             open->done(2);
         }
+    });
+}
+
+void CQtFrontEndDriver::ExpectMenu(int command, std::function<void()> whileOpen) {
+    m_prompts.Expect<QMenu>([this, command, whileOpen](QMenu& menu) {
+        m_menus.push_back(ReadMenu(menu));
+        if (whileOpen) {
+            whileOpen();
+        }
+        ChooseFromMenu(menu, command);
+    });
+}
+
+void CQtFrontEndDriver::ExpectFileDialog(std::function<void(conformance::IFileDialogUser&)> act) {
+    m_prompts.Expect<QFileDialog>([this, act](QFileDialog& dialog) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        CFileDialogUser user(dialog);
+        act(user);
+        user.Cancel();
     });
 }
 

@@ -23,7 +23,10 @@ public:
     void ExpectBox(std::int32_t button, std::function<void()> whileOpen) override;
     void ExpectBoxAndEscape() override;
     void ExpectDialog(std::function<void(conformance::IViewUser&)> act) override;
+    void ExpectMenu(int command, std::function<void()> whileOpen) override;
+    void ExpectFileDialog(std::function<void(conformance::IFileDialogUser&)> act) override;
     std::vector<conformance::ShownBox> Boxes() override { return m_boxes; }
+    std::vector<conformance::ShownMenu> Menus() override { return m_menus; }
 
     bool IsWaitCursorShown() override;
     bool IsHelpViewerShown() override;
@@ -35,6 +38,7 @@ private:
     qt::CQtToolkit m_toolkit;
     CPromptHands m_prompts;
     std::vector<conformance::ShownBox> m_boxes;
+    std::vector<conformance::ShownMenu> m_menus;
     std::vector<std::unique_ptr<conformance::IViewUser>> m_users;
 };
 

@@ -4,12 +4,14 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDateTime>
 #include <QDialog>
 #include <QFile>
+#include <QLocale>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextEdit>
 #include <gtest/gtest.h>
 
 namespace qttests {
@@ -25,6 +27,18 @@ class CSilentHandler final : public panel::IDialogHandler {
 public:
     void OnInit(panel::IView&) override {}
     void OnCommand(panel::ControlId) override {}
+};
+
+/// Ends a window when it is initialised.
+class CEndingHandler final : public panel::IDialogHandler {
+public:
+    explicit CEndingHandler(std::unique_ptr<QWidget>& window) : m_window(window) {}
+
+    void OnInit(panel::IView&) override { m_window.reset(); }
+    void OnCommand(panel::ControlId) override {}
+
+private:
+    std::unique_ptr<QWidget>& m_window;
 };
 
 class QtToolkitTest : public testing::Test {
@@ -47,7 +61,7 @@ protected:
     }
 
     static QString HelpText() {
-        return HelpWindows().value(0)->findChild<QPlainTextEdit*>()->toPlainText();
+        return HelpWindows().value(0)->findChild<QTextEdit*>()->toPlainText();
     }
 
     CSilentHandler m_handler;
@@ -95,6 +109,15 @@ TEST_F(QtToolkitTest, DialogEndedWithItsOwnerCountsAsCancelled) {
               panel::DialogOutcome::Closed(panel::kCancelButton));
 }
 
+TEST_F(QtToolkitTest, DialogEndedWithItsOwnerDuringInitIsNotShown) {
+    auto window = std::make_unique<QWidget>();
+    const auto view = m_toolkit.CreateView(kTemplate, window.get(), m_handler);
+    CEndingHandler handler(window);
+    EXPECT_EQ(m_toolkit.RunDialog(kTemplate, handler, panel::Owner::PanelParent),
+              panel::DialogOutcome::Closed(panel::kCancelButton));
+    EXPECT_EQ(window, nullptr);
+}
+
 TEST_F(QtToolkitTest, MissingHelpFileIsNamedInTheWindow) {
     m_toolkit.ShowHelp("/no-such-folder/panel.hlp", 1, panel::Owner::None);
     ASSERT_EQ(HelpWindows().size(), 1);
@@ -108,12 +131,12 @@ TEST_F(QtToolkitTest, HelpFileIsShownInTheSameWindowAgain) {
     const QTemporaryDir folder;
     QFile file(folder.filePath("panel.hlp"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("How to reset a device");
+    file.write("# 1 First\n\nNothing\n\n# 2 Reset\n\nHow to reset a device\n");
     file.close();
     m_toolkit.ShowHelp("missing", 1, panel::Owner::None);
     m_toolkit.ShowHelp(file.fileName().toStdString(), 2, panel::Owner::None);
     ASSERT_EQ(HelpWindows().size(), 1);
-    EXPECT_EQ(HelpText(), QStringLiteral("How to reset a device"));
+    EXPECT_EQ(HelpText(), QStringLiteral("Reset\nHow to reset a device"));
 }
 
 TEST_F(QtToolkitTest, EscapeClosesHelpAndItCanBeShownAgain) {
@@ -135,6 +158,23 @@ TEST_F(QtToolkitTest, HelpOverADialogBelongsToIt) {
     EXPECT_EQ(HelpWindows().size(), 0);
     m_toolkit.ShowHelp("missing", 1, panel::Owner::None);
     EXPECT_EQ(HelpWindows().size(), 1);
+}
+
+TEST_F(QtToolkitTest, PathSeparatorIsThatOfThePathsDelivered) {
+    EXPECT_EQ(m_toolkit.GetPathSeparator(), '/');
+}
+
+TEST_F(QtToolkitTest, LocalTimeIsTheSystemsShortDateAndTime) {
+    const auto read = [] {
+        const QLocale locale = QLocale::system();
+        const QDateTime now = QDateTime::currentDateTime();
+        return std::pair(locale.toString(now.date(), QLocale::ShortFormat).toStdString(),
+                         locale.toString(now.time(), QLocale::ShortFormat).toStdString());
+    };
+    const auto before = read();
+    const panel::LocalTime now = m_toolkit.GetLocalTime();
+    const std::pair shown(now.date, now.time);
+    EXPECT_TRUE(shown == before || shown == read()) << now.date << ' ' << now.time;
 }
 
 TEST_F(QtToolkitTest, ComponentFolderHoldsThisProgram) {

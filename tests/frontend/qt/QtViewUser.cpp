@@ -1,5 +1,6 @@
 #include "tests/frontend/qt/QtViewUser.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -64,7 +65,7 @@ QString ShownBy(QWidget& widget) {
     if (const auto* const label = dynamic_cast<QLabel*>(&widget)) {
         return ShownBy(*label);
     }
-    if (const auto* const button = dynamic_cast<QPushButton*>(&widget)) {
+    if (const auto* const button = dynamic_cast<QAbstractButton*>(&widget)) {
         return WithoutMark(button->text());
     }
     if (const auto* const box = dynamic_cast<QGroupBox*>(&widget)) {

@@ -27,6 +27,8 @@ void CRealHands::ClickHolding(const QString& key, const QWidget& widget, QPoint 
 
 void CRealHands::PressKey(const QString& key) const { Run({"key", key}); }
 
+void CRealHands::Type(const QString& text) const { Run({"type", text}); }
+
 void CRealHands::Activate(QWidget& window) const {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     Run({"windowfocus", "--sync", QString::number(window.winId())});

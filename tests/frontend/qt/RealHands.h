@@ -19,6 +19,8 @@ public:
     void ClickHolding(const QString& key, const QWidget& widget, QPoint place) const;
     /// A key or combination by its name ("F1", "Tab", "alt+h").
     void PressKey(const QString& key) const;
+    /// Types letters, digits and signs.
+    void Type(const QString& text) const;
     /// Makes a window the active one, as a click on its title would if there were a window manager.
     void Activate(QWidget& window) const;
 

@@ -1,103 +1,14 @@
-#include "tests/frontend/qt/RealHands.h"
-
-#include "frontend/qt/ListView.h"
-#include "frontend/qt/QtPanel.h"
-#include "panel/control/PanelTemplate.h"
-#include "simulator/Device.h"
-#include "simulator/Host.h"
-#include "tests/frontend/qt/ControlUser.h"
-#include "tests/frontend/qt/PromptHands.h"
-#include "tests/support/HostDoubles.h"
-#include "tests/support/SampleDevices.h"
+#include "tests/frontend/qt/RealHandsFixture.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QPushButton>
+#include <QMenu>
 #include <QScrollBar>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace qttests {
 
 namespace {
-
-using Rows = std::vector<int>;
-
-constexpr std::int32_t kKrx20 = 4;
-constexpr int kFiles = 60;
-
-/// The panel of a connected device in a window of its own, with a user's hands.
-class RealHandsTest : public testing::Test {
-protected:
-    void SetUp() override {
-        m_host.SetHostViewControl(m_viewControl);
-        m_host.SetMessageService(m_messageService);
-        ASSERT_EQ(m_panel->SetContextAndRegister(m_host.Context()), contract::kSuccess);
-        ASSERT_EQ(m_panel->CreateView(&m_window), contract::kSuccess);
-        ASSERT_EQ(m_panel->SetSubsystemAccess(m_host.SubsystemAccess()), contract::kSuccess);
-        ASSERT_EQ(m_panel->SetConnection(m_host.Connection()), contract::kSuccess);
-        const contract::PixelSize size = m_panel->GetNaturalSize();
-        m_window.setGeometry(40, 30, size.width, size.height);
-        m_window.show();
-        m_hands.Activate(m_window);
-        Connect();
-    }
-
-    void TearDown() override {
-        m_panel->DestroyView();
-        EXPECT_TRUE(m_messageService->shown.empty());
-        EXPECT_TRUE(m_prompts.GetUnexpected().empty());
-        EXPECT_EQ(m_prompts.GetOutstanding(), 0u);
-    }
-
-    void Connect() {
-        simulator::DeviceDescription device = support::HealthyDevice(kKrx20);
-        while (device.files.size() < kFiles) {
-            const auto number = static_cast<std::int32_t>(device.files.size());
-            device.files.push_back(
-                support::File("file" + std::to_string(number) + ".fg", 22, number));
-        }
-        device.selfTests[contract::SelfTest::Ethernet] = 1;
-        m_host.InsertDevice(simulator::CDevice::Create(device));
-        m_host.RaiseConnectionState(contract::kSuccess, contract::kConnectionDeviceReady);
-        ASSERT_EQ(List().GetRowCount(), kFiles);
-        List().grab();
-    }
-
-    QWidget& Control(panel::ControlId id) const {
-        return *CControlUser(*m_window.findChild<QWidget*>("view-103")).FindWidget(id);
-    }
-    qt::CListView& List() const { return dynamic_cast<qt::CListView&>(Control(panel::kFileList)); }
-    QPoint PlaceOf(int row) const {
-        return List().visualRect(List().model()->index(row, 0)).center();
-    }
-
-    static bool IsHelpShown() {
-        for (const QWidget* const window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == QStringLiteral("help") && window->isVisible()) {
-                return true;
-            }
-        }
-        return false;
-    }
-
-    bool WaitForSelection(const Rows& rows) const {
-        return QTest::qWaitFor([&] { return List().GetSelectedRows() == rows; });
-    }
-    bool WaitForFocus(panel::ControlId id) const {
-        return QTest::qWaitFor([&] { return Control(id).hasFocus(); });
-    }
-
-    simulator::CHost m_host{{.areApplied = false}};
-    std::shared_ptr<support::CMessageServiceDouble> m_messageService =
-        std::make_shared<support::CMessageServiceDouble>();
-    std::shared_ptr<support::CHostViewControlDouble> m_viewControl =
-        std::make_shared<support::CHostViewControlDouble>();
-    QWidget m_window;
-    std::shared_ptr<contract::IPanel> m_panel = qt::CreateQtPanel();
-    CPromptHands m_prompts;
-    CRealHands m_hands;
-};
 
 TEST_F(RealHandsTest, ClicksSelectRows) {
     m_hands.Click(*List().viewport(), PlaceOf(2));
@@ -113,9 +24,16 @@ TEST_F(RealHandsTest, ShiftClickAfterRefreshExtendsFromTheFirstRow) {
     EXPECT_TRUE(WaitForSelection({0, 1, 2, 3}));
 }
 
-TEST_F(RealHandsTest, RightClickSelectsTheRowBeneath) {
+TEST_F(RealHandsTest, RightClickSelectsTheRowBeneathAndOpensTheMenu) {
+    bool isOpened = false;
+    m_prompts.Expect<QMenu>([&](QMenu&) {
+        EXPECT_EQ(List().GetSelectedRows(), Rows{4});
+        isOpened = true;
+        m_hands.PressKey("Escape");
+    });
     m_hands.Click(*List().viewport(), PlaceOf(4), 3);
-    EXPECT_TRUE(WaitForSelection({4}));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return isOpened && QApplication::activePopupWidget() == nullptr; }, 10000));
 }
 
 TEST_F(RealHandsTest, WheelAndKeysScrollTheList) {

@@ -37,6 +37,8 @@ CTestApplication::Environment::Environment() {
     }
     // The desktop that the tests happen to run on has no say, nor its library's leaks.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    // Neither have the settings of the machine.
+    qputenv("KRX8_REGISTRY", folder.filePath(QStringLiteral("registry.json")).toUtf8());
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         return;
     }

@@ -6,7 +6,8 @@
 namespace qttests {
 
 /// The application of a test program, with everything pinned that geometry depends on: DejaVu Sans
-/// of 11 pixels, Fusion style, a cursor that does not flash, a folder of its own for settings.
+/// of 11 pixels, Fusion style, a cursor that does not flash, a folder and a registry file of its
+/// own for settings.
 ///
 /// Runs off screen, on a screen of 1280 x 1024 pixels, unless the environment names a platform.
 /// Ends the program when the font is missing, since every measure would be another one.

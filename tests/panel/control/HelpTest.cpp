@@ -29,8 +29,14 @@ TEST_F(HelpTest, HelpMnemonicOpensTheOverview) {
     EXPECT_THAT(Helps(), ElementsAre(ShownHelp{kFile, 1, Owner::Panel}));
 }
 
-TEST_F(HelpTest, HelpKeyWithoutContextOpensTheOverviewForThePanel) {
+TEST_F(HelpTest, HelpKeyOpensTheTopicOfTheFocusedControl) {
+    View().SetFocus(kSerialNumberField);
     View().RequestHelp();
+    EXPECT_THAT(Helps(), ElementsAre(ShownHelp{kFile, 211, Owner::ActiveWindow}));
+}
+
+TEST_F(HelpTest, HelpRequestWithoutContextOpensTheOverviewForThePanel) {
+    panel->OnHelp(0);
     EXPECT_THAT(Helps(), ElementsAre(ShownHelp{kFile, 1, Owner::Panel}));
 }
 

@@ -1,5 +1,5 @@
 #include "panel/control/Trace.h"
-#include "tests/support/PanelFixture.h"
+#include "tests/support/CommandFixture.h"
 
 namespace {
 
@@ -9,12 +9,10 @@ using namespace support;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FileListKeysTest : public PanelFixture {
+class FileListKeysTest : public CommandFixture {
 protected:
     void SetUp() override {
-        StartPanel();
-        ConnectDevice(kKrx20);
-        ForgetWhatWasSeen();
+        Start();
         desktop->traceLines.clear();
         View().SetFocus(kReportButton);
     }
@@ -31,14 +29,29 @@ protected:
     }
 };
 
-TEST_F(FileListKeysTest, DeleteKeyGivesTheFocusBackToTheList) {
+TEST_F(FileListKeysTest, DeleteKeyDeletesAndGivesTheFocusBackToTheList) {
+    messageService->answers.push_back(6);
     ReportKey(0x2E);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_THAT(device->calls, ElementsAre("DeleteFile(19, 1)"));
     EXPECT_EQ(View().GetFocus(), kFileList);
     ExpectTraced("CKRX8Maintenance::OnFileListKeyDown: key 0x2E pressed");
 }
 
-TEST_F(FileListKeysTest, ContextMenuKeyGivesTheFocusBackToTheList) {
+TEST_F(FileListKeysTest, DeleteKeyLeavesTheControlsEnabled) {
+    messageService->answers.push_back(6);
+    device->answer = [this](const std::string&) {
+        EXPECT_TRUE(IsEnabled(kFileList));
+        return contract::kSuccess;
+    };
+    ReportKey(0x2E);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+}
+
+TEST_F(FileListKeysTest, ContextMenuKeyOpensTheMenuAndGivesTheFocusBackToTheList) {
+    desktop->prompts.AnswerMenu(0);
     ReportKey(0x5D);
+    EXPECT_EQ(desktop->prompts.Menus().size(), 1u);
     EXPECT_EQ(View().GetFocus(), kFileList);
     ExpectTraced("CKRX8Maintenance::OnFileListKeyDown: key 0x5D pressed");
 }

@@ -76,7 +76,9 @@ TEST_F(RefreshSequenceTest, RefreshWritesItsLogLinesInOrder) {
                 ElementsAre("Querying self-tests results", "Programming Device is in Normal mode",
                             "Querying hardware and software info from Programming Device",
                             "Querying free memory resources", "Updating file listing...",
-                            "File listing updated"));
+                            "File listing updated",
+                            "Currently installed Flash Update Package in Programming Device is: "
+                            "002.005.013"));
 }
 
 TEST_F(RefreshSequenceTest, Krx8InServiceModeIsNotAskedForMemory) {

@@ -192,10 +192,16 @@ TEST_F(SelfTestTest, CancelButtonIsThereButHidden) {
     });
 }
 
-TEST_F(SelfTestTest, HelpRequestOpensTheOverview) {
-    OpenOn(HealthyDevice(kKrx20), [](CHeadlessView& view) { view.RequestHelp(); });
-    EXPECT_THAT(desktop->helps, ElementsAre(headless::ShownHelp{
-                                    "component/cmn_krx8maintenanceui.hlp", 1, Owner::Panel}));
+TEST_F(SelfTestTest, HelpRequestOpensTheTopicOfTheFocusedControl) {
+    OpenOn(HealthyDevice(kKrx20), [](CHeadlessView& view) {
+        view.SetFocus(236);
+        view.RequestHelp();
+        view.SetFocus(1);
+        view.RequestHelp();
+    });
+    constexpr const char* kFile = "component/cmn_krx8maintenanceui.hlp";
+    EXPECT_THAT(desktop->helps, ElementsAre(headless::ShownHelp{kFile, 236, Owner::ActiveWindow},
+                                            headless::ShownHelp{kFile, 1201, Owner::ActiveWindow}));
 }
 
 TEST_F(SelfTestTest, ListSelectsOneRowAtATime) {

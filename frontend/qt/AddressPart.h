@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include <functional>
+
+namespace qt {
+
+/// One of the four numbers of an address field, 0 to 255; without text it counts as 0.
+///
+/// While it is being typed a number may be too great; it is cut to 255 when the part is left.
+class CAddressPart final : public QLineEdit {
+public:
+    /// `previous` is null for the first part; it leads on to this one.
+    CAddressPart(CAddressPart* previous, QWidget* parent);
+
+    /// Called with what the user pastes.
+    void SetPasteListener(std::function<void(const QString&)> listener);
+
+    int GetNumber() const;
+    void SetNumber(int number);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    bool HandleKey(const QKeyEvent& event);
+    bool MoveOn();
+    bool MoveToStartOf(CAddressPart* part);
+    bool MoveToEndOf(CAddressPart* part);
+
+    CAddressPart* const m_previous;
+    CAddressPart* m_next = nullptr;
+    std::function<void(const QString&)> m_pasteListener;
+};
+
+}

@@ -1,0 +1,99 @@
+#include "tests/support/CommandFixture.h"
+
+namespace {
+
+using namespace panel;
+using namespace support;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class DeviceResetTest : public CommandFixture {
+protected:
+    void SetUp() override { Start(); }
+
+    bool Reset() { return PressButton(kResetButton); }
+    std::size_t Listings() const {
+        return faults->Calls("ProgrammingDeviceControl.GetFileListing");
+    }
+    /// Runs while the device resets.
+    void WhileResetting(std::function<void()> action) {
+        device->answer = [action = std::move(action)](const std::string&) {
+            action();
+            return contract::kSuccess;
+        };
+    }
+};
+
+TEST_F(DeviceResetTest, ResetRequestsItAndRefreshes) {
+    ASSERT_TRUE(Reset());
+    EXPECT_THAT(device->calls, ElementsAre("RequestMode(4)"));
+    EXPECT_EQ(Listings(), 2u);
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+    EXPECT_TRUE(IsEnabled(kResetButton));
+}
+
+TEST_F(DeviceResetTest, PollingIsSuspendedThroughTheRefresh) {
+    std::vector<bool> isPolling;
+    const auto look = [&] { isPolling.push_back(host.PollingEnabled()); };
+    WhileResetting(look);
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetFileListing"}, look);
+    Reset();
+    EXPECT_THAT(isPolling, ElementsAre(false, false));
+    EXPECT_TRUE(host.PollingEnabled());
+}
+
+TEST_F(DeviceResetTest, WaitCursorShowsAllTheWhile) {
+    std::vector<int> depths;
+    const auto look = [&] { depths.push_back(desktop->cursorDepth); };
+    WhileResetting(look);
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetFileListing"}, look);
+    Reset();
+    EXPECT_THAT(depths, ElementsAre(1, 2));
+}
+
+TEST_F(DeviceResetTest, EventDuringTheResetStartsNoRefresh) {
+    WhileResetting([this] {
+        EXPECT_FALSE(State().refreshAllowed);
+        RaiseState(7);
+    });
+    Reset();
+    EXPECT_EQ(faults->Calls("HardwareInfo.GetDeviceType"), 2u);
+    EXPECT_EQ(Listings(), 2u);
+}
+
+TEST_F(DeviceResetTest, FailureIsReportedWithoutRefresh) {
+    const std::string version = Field(kHardwareField);
+    FailCall("RequestMode(4)", contract::Status::FromBits(0x8007001F), "device hangs");
+    bool isAllowed = false;
+    messageService->whileOpen = [&] { isAllowed = State().refreshAllowed; };
+    Reset();
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(ErrorReport("Resetting prommer.", "Prommer Maintenance",
+                                        contract::Status::FromBits(0x8007001F), "device hangs")));
+    EXPECT_TRUE(isAllowed);
+    EXPECT_EQ(Listings(), 1u);
+    EXPECT_EQ(Field(kHardwareField), version);
+    EXPECT_TRUE(IsEnabled(kResetButton));
+    EXPECT_TRUE(host.PollingEnabled());
+}
+
+TEST_F(DeviceResetTest, ResetRunsAlthoughPollingCannotBeSuspended) {
+    faults->Fail({1, "ProductInformation.GetProductDetection"});
+    Reset();
+    EXPECT_THAT(device->calls, ElementsAre("RequestMode(4)"));
+    EXPECT_EQ(Listings(), 2u);
+    EXPECT_EQ(TakeMessages().size(), 2u);
+}
+
+TEST_F(DeviceResetTest, ResetWithoutControlIsReportedAsInvalidPointer) {
+    EndPanel();
+    panel = CKRX8Maintenance::Create(std::make_unique<headless::CHeadlessToolkit>(desktop));
+    StartView();
+    panel->OnCommand(kResetButton);
+    const auto shown = TakeMessages();
+    ASSERT_EQ(shown.size(), 3u);
+    EXPECT_EQ(shown[1], ErrorReport("Resetting prommer.", "Prommer Maintenance",
+                                    contract::Status::FromBits(0x80004003)));
+}
+
+}

@@ -1,0 +1,151 @@
+#include "tests/support/WritingDevice.h"
+
+#include <cstdio>
+#include <utility>
+
+namespace support {
+
+using contract::Status;
+
+namespace {
+
+std::string Text(const std::string& text) { return text; }
+std::string Text(std::int32_t number) { return std::to_string(number); }
+std::string Text(bool flag) { return flag ? "true" : "false"; }
+
+std::string Hex(std::uint32_t number) {
+    char text[11];
+    std::snprintf(text, sizeof text, "0x%08X", number);
+    return text;
+}
+
+template <class First, class... Rest>
+std::string Called(const char* operation, const First& first, const Rest&... rest) {
+    return std::string(operation) + "(" + Text(first) + ((", " + Text(rest)) + ... + ")");
+}
+
+}
+
+Status CWritingDevice::Note(const std::string& call) {
+    calls.push_back(call);
+    return answer ? answer(call) : contract::kSuccess;
+}
+
+Status CWritingDevice::GetSubsystem(const contract::Guid& identifier,
+                                    std::shared_ptr<contract::ISubsystem>& subsystem) {
+    if (identifier != contract::kProgrammingDeviceSubsystem) {
+        return m_host->GetSubsystem(identifier, subsystem);
+    }
+    const Status status = m_host->GetSubsystem(identifier, m_hostSubsystem);
+    if (status.IsSuccess()) {
+        subsystem = shared_from_this();
+    }
+    return status;
+}
+
+Status CWritingDevice::QueryProgrammingDeviceSubsystem(
+    std::shared_ptr<contract::IProgrammingDeviceSubsystem>& subsystem) {
+    const Status status = m_hostSubsystem->QueryProgrammingDeviceSubsystem(m_subsystem);
+    if (status.IsSuccess()) {
+        subsystem = shared_from_this();
+    }
+    return status;
+}
+
+Status CWritingDevice::QueryProductInformation(std::shared_ptr<contract::IProductInformation>&) {
+    return contract::kNoSuchInterface;
+}
+
+Status CWritingDevice::get_ProgrammingDeviceControl(
+    std::shared_ptr<contract::IProgrammingDeviceControl>& control) {
+    const Status status = m_subsystem->get_ProgrammingDeviceControl(m_control);
+    if (status.IsSuccess()) {
+        control = shared_from_this();
+    }
+    return status;
+}
+
+Status CWritingDevice::GetKrx10Control(std::shared_ptr<contract::IKrx10Control>& control) {
+    const Status status = m_subsystem->GetKrx10Control(m_krx10);
+    if (status.IsSuccess()) {
+        control = shared_from_this();
+    }
+    return status;
+}
+
+Status CWritingDevice::GetCommunicationConfiguration(
+    std::shared_ptr<contract::IKrx10CommunicationConfiguration>& configuration) {
+    const Status status = m_krx10->GetCommunicationConfiguration(m_configuration);
+    if (status.IsSuccess()) {
+        configuration = shared_from_this();
+    }
+    return status;
+}
+
+Status CWritingDevice::QueryCommunicationConfiguration2(
+    std::shared_ptr<contract::IKrx10CommunicationConfiguration2>& configuration) {
+    const Status status = m_configuration->QueryCommunicationConfiguration2(m_network);
+    if (status.IsSuccess()) {
+        configuration = shared_from_this();
+    }
+    return status;
+}
+
+Status CWritingDevice::RequestMode(contract::ModeRequest request) {
+    return request == contract::ModeRequest::Report
+               ? m_control->RequestMode(request)
+               : Note(Called("RequestMode", static_cast<std::int32_t>(request)));
+}
+
+Status CWritingDevice::UploadPhoneFile(const std::string& path, std::int32_t destination,
+                                       std::int32_t method, std::int32_t&) {
+    return Note(Called("UploadPhoneFile", path, destination, method));
+}
+
+Status CWritingDevice::MoveFile(std::int32_t type, std::int32_t id, std::int32_t destination,
+                                std::int32_t reserved) {
+    return Note(Called("MoveFile", type, id, destination, reserved));
+}
+
+Status CWritingDevice::DeleteFile(std::int32_t type, std::int32_t id) {
+    return Note(Called("DeleteFile", type, id));
+}
+
+Status CWritingDevice::UploadCode(const std::string& path, std::int32_t codeKind,
+                                  std::int32_t reserved, std::int32_t mode) {
+    return Note(Called("UploadCode", path, codeKind, reserved, mode));
+}
+
+Status CWritingDevice::UpdateFromIniFile(const std::string& path) {
+    return Note(Called("UpdateFromIniFile", path));
+}
+
+Status CWritingDevice::RerunMediaTests(std::uint32_t mask) {
+    return Note(Called("RerunMediaTests", Hex(mask)));
+}
+
+Status CWritingDevice::PrepareMedia(contract::Medium medium) {
+    return Note(Called("PrepareMedia", static_cast<std::int32_t>(medium)));
+}
+
+Status CWritingDevice::SetIpAddress(contract::AddressValue address) {
+    return Note(Called("SetIpAddress", Hex(address)));
+}
+
+Status CWritingDevice::SetDhcp(bool useDhcp) { return Note(Called("SetDhcp", useDhcp)); }
+
+Status CWritingDevice::SetSubnetMask(contract::AddressValue mask) {
+    return Note(Called("SetSubnetMask", Hex(mask)));
+}
+
+Status CWritingDevice::SetGateway(contract::AddressValue gateway) {
+    return Note(Called("SetGateway", Hex(gateway)));
+}
+
+Status CWritingDevice::SetDescription(const std::string& description) {
+    return Note(Called("SetDescription", description));
+}
+
+Status CWritingDevice::ApplyConfiguration() { return Note("ApplyConfiguration()"); }
+
+}
