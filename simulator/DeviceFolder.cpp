@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <fstream>
 #include <string>
 #include <system_error>
@@ -17,6 +18,9 @@ namespace simulator {
 namespace {
 
 using Path = std::filesystem::path;
+
+/// A million files take some 150 MB.
+constexpr std::uintmax_t kLargestDescriptionBytes = 256u << 20;
 
 std::string LastSystemError() { return std::error_code(errno, std::generic_category()).message(); }
 
@@ -50,6 +54,9 @@ std::string ReadText(const Path& path) {
     const auto size = std::filesystem::file_size(path, error);
     if (error) {
         RefuseAsUnreadable(path, error.message());
+    }
+    if (size > kLargestDescriptionBytes) {
+        throw DescriptionError{path, 0, "is larger than 256 MiB, which no description is"};
     }
     std::ifstream stream(path, std::ios::binary);
     std::string text(size, '\0');

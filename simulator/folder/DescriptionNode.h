@@ -42,7 +42,8 @@ public:
 
     /// Refuses every member that is not in `keys`, and anything that is not an object.
     void ExpectKeys(std::initializer_list<std::string_view> keys) const;
-    /// Refuses anything that is not an object, then visits the members in their order.
+    /// Refuses anything that is not an object, then visits the members in the order of their
+    /// names.
     void ForEachMember(
         const std::function<void(const std::string&, const CDescriptionNode&)>& visit) const;
     /// Refuses anything that is not a list, then visits its elements.

@@ -48,6 +48,13 @@ TEST_F(DeviceFolderRefusalTest, UnreadableDescriptionIsRefused) {
     ExpectRefusal("/device.json: cannot be read: Too many levels of symbolic links");
 }
 
+TEST_F(DeviceFolderRefusalTest, GiantDescriptionIsRefusedUnread) {
+    const auto description = m_folder.Path() / "device.json";
+    fs::resize_file(description, (std::uintmax_t{256} << 20) + 1);
+    ExpectRefusal(m_folder.Path(),
+                  description.string() + ": is larger than 256 MiB, which no description is");
+}
+
 TEST_F(DeviceFolderRefusalTest, EmptyDescriptionIsRefused) {
     Describe("");
     ExpectRefusal("/device.json:1: is not valid JSON: syntax error while parsing value - "
