@@ -61,8 +61,9 @@ bool HeadlessControl::HasText() const {
 void HeadlessControl::Move(const panel::Rectangle& target) {
     rectangle = target;
     ++frameComputations;
-    if (list)
+    if (list) {
         list->SetPageSize(PageSize());
+    }
 }
 
 panel::Point HeadlessControl::RowPosition(int row) const {

@@ -24,27 +24,31 @@ constexpr KeyStep kKeySteps[] = {
 };
 
 void ShiftForInsertion(int& row, int index) {
-    if (row >= index)
+    if (row >= index) {
         ++row;
+    }
 }
 
 }
 
 void CHeadlessList::InsertColumn(int index, const panel::ListColumn& column) {
     const int count = static_cast<int>(m_columns.size());
-    if (index < 0 || index > count)
+    if (index < 0 || index > count) {
         index = count;
+    }
     // The first column finds the first cell of the rows that were there before it.
-    if (count > 0)
+    if (count > 0) {
         m_rows.InsertColumn(index);
+    }
     m_columns.insert(m_columns.begin() + index,
                      {ToShownText(column.heading), column.widthPixels, column.alignment});
 }
 
 int CHeadlessList::InsertRow(int index, std::string_view text) {
     const int count = m_rows.Count();
-    if (index < 0 || index > count)
+    if (index < 0 || index > count) {
         index = count;
+    }
     m_rows.Insert(index, text);
     ShiftForInsertion(m_selectionMark, index);
     ShiftForInsertion(m_focusedRow, index);
@@ -66,10 +70,12 @@ void CHeadlessList::RemoveAllRows() {
 }
 
 void CHeadlessList::SelectRow(int row, bool isSelected) {
-    if (!HasRow(row) || m_rows.IsSelected(row) == isSelected)
+    if (!HasRow(row) || m_rows.IsSelected(row) == isSelected) {
         return;
-    if (isSelected && !m_isMultiSelect)
+    }
+    if (isSelected && !m_isMultiSelect) {
         DeselectAll();
+    }
     m_rows.SetSelected(row, isSelected);
     m_selectedCount += isSelected ? 1 : -1;
 }
@@ -78,20 +84,23 @@ std::vector<int> CHeadlessList::GetSelectedRows() const {
     std::vector<int> selected;
     selected.reserve(static_cast<std::size_t>(m_selectedCount));
     for (int row = 0; static_cast<int>(selected.size()) < m_selectedCount; ++row) {
-        if (m_rows.IsSelected(row))
+        if (m_rows.IsSelected(row)) {
             selected.push_back(row);
+        }
     }
     return selected;
 }
 
 void CHeadlessList::SetSelectionMark(int row) {
-    if (HasRow(row))
+    if (HasRow(row)) {
         m_selectionMark = row;
+    }
 }
 
 void CHeadlessList::EnsureRowVisible(int row) {
-    if (HasRow(row))
+    if (HasRow(row)) {
         m_topRow = std::clamp(m_topRow, std::max(row - m_pageSize + 1, 0), row);
+    }
 }
 
 bool CHeadlessList::IsRowInSight(int row) const {
@@ -99,13 +108,15 @@ bool CHeadlessList::IsRowInSight(int row) const {
 }
 
 void CHeadlessList::Click(int row, Modifier modifier) {
-    if (!HasRow(row))
+    if (!HasRow(row)) {
         return;
+    }
     if (modifier == Modifier::Shift && m_isMultiSelect && HasRow(m_selectionMark)) {
         DeselectAll();
         const auto [first, last] = std::minmax(m_selectionMark, row);
-        for (int selected = first; selected <= last; ++selected)
+        for (int selected = first; selected <= last; ++selected) {
             SelectRow(selected, true);
+        }
     } else if (modifier == Modifier::Control) {
         SelectRow(row, !m_rows.IsSelected(row));
         m_selectionMark = row;
@@ -117,18 +128,21 @@ void CHeadlessList::Click(int row, Modifier modifier) {
 }
 
 void CHeadlessList::RightClick(int row) {
-    if (!HasRow(row))
+    if (!HasRow(row)) {
         return;
-    if (!m_rows.IsSelected(row))
+    }
+    if (!m_rows.IsSelected(row)) {
         SelectOnly(row);
+    }
     m_focusedRow = row;
     EnsureRowVisible(row);
 }
 
 void CHeadlessList::PressKey(std::uint16_t virtualKey) {
     const auto step = std::ranges::find(kKeySteps, virtualKey, &KeyStep::virtualKey);
-    if (step == std::end(kKeySteps) || m_rows.Count() == 0)
+    if (step == std::end(kKeySteps) || m_rows.Count() == 0) {
         return;
+    }
     const int target = m_focusedRow + step->rows + step->pages * m_pageSize;
     m_focusedRow = std::clamp(target, 0, m_rows.Count() - 1);
     SelectOnly(m_focusedRow);
@@ -142,8 +156,9 @@ void CHeadlessList::SelectOnly(int row) {
 }
 
 void CHeadlessList::DeselectAll() {
-    for (int row : GetSelectedRows())
+    for (int row : GetSelectedRows()) {
         m_rows.SetSelected(row, false);
+    }
     m_selectedCount = 0;
 }
 

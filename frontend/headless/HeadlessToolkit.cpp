@@ -55,8 +55,9 @@ panel::DialogOutcome CHeadlessToolkit::RunDialog(const panel::DialogTemplate& di
                                                  panel::Owner owner) {
     // The panel, and this toolkit with it, may end while the dialog is open.
     const std::shared_ptr<HeadlessDesktop> desktop = m_desktop;
-    if (const auto failure = desktop->prompts.TakeDialogFailure(dialogTemplate.id, owner))
+    if (const auto failure = desktop->prompts.TakeDialogFailure(dialogTemplate.id, owner)) {
         return panel::DialogOutcome::Failed(*failure);
+    }
     CHeadlessView view(dialogTemplate, kFont, handler, WindowsOf(desktop), ViewKind::Dialog);
     view.FailIcons(desktop->iconError);
     handler.OnInit(view);

@@ -27,8 +27,9 @@ CHeadlessView::CHeadlessView(const panel::DialogTemplate& dialogTemplate, panel:
 }
 
 void CHeadlessView::Register(HeadlessControl& control) {
-    if (control.id == kNoControl)
+    if (control.id == kNoControl) {
         return;
+    }
     const std::size_t slots = std::max(m_controlsById.size(), control.id + std::size_t{1});
     m_controlsById.resize(slots);
     m_lists.resize(slots);
@@ -39,8 +40,9 @@ void CHeadlessView::Register(HeadlessControl& control) {
 CHeadlessView::~CHeadlessView() { m_windows->Close(*this); }
 
 ControlId CHeadlessView::Capture(ControlId id) {
-    if (!Find(id))
+    if (!Find(id)) {
         return kNoControl;
+    }
     m_captures.push_back(id);
     return id;
 }
@@ -61,8 +63,9 @@ std::string CHeadlessView::GetText(ControlId id) const {
 
 void CHeadlessView::SetEnabled(ControlId id, bool enabled) {
     HeadlessControl* control = Find(id);
-    if (!control)
+    if (!control) {
         return;
+    }
     control->isEnabled = enabled;
     enabled ? DeliverPendingFocus(*control) : WithdrawFocus(*control);
 }
@@ -74,8 +77,9 @@ bool CHeadlessView::IsEnabled(ControlId id) const {
 
 void CHeadlessView::SetVisible(ControlId id, bool visible) {
     HeadlessControl* control = Find(id);
-    if (!control)
+    if (!control) {
         return;
+    }
     control->isVisible = visible;
     visible ? DeliverPendingFocus(*control) : WithdrawFocus(*control);
 }
@@ -87,8 +91,9 @@ bool CHeadlessView::IsVisible(ControlId id) const {
 
 void CHeadlessView::SetFocus(ControlId id) {
     const HeadlessControl* control = Find(id);
-    if (!control || !control->CanHaveFocus())
+    if (!control || !control->CanHaveFocus()) {
         return;
+    }
     m_pendingFocus = id;
     DeliverPendingFocus(*control);
 }
@@ -98,8 +103,9 @@ ControlId CHeadlessView::GetFocus() const {
 }
 
 void CHeadlessView::SetSize(panel::Size size) {
-    if (std::exchange(m_clientSize, size) != size)
+    if (std::exchange(m_clientSize, size) != size) {
         m_handler.OnResized(size);
+    }
 }
 
 panel::Rectangle CHeadlessView::GetRectangle(ControlId id) const {
@@ -108,13 +114,15 @@ panel::Rectangle CHeadlessView::GetRectangle(ControlId id) const {
 }
 
 void CHeadlessView::Move(ControlId id, const panel::Rectangle& rectangle) {
-    if (HeadlessControl* control = Find(id))
+    if (HeadlessControl* control = Find(id)) {
         control->Move(rectangle);
+    }
 }
 
 void CHeadlessView::InsertColumn(ControlId id, int index, const panel::ListColumn& column) {
-    if (CHeadlessList* list = FindList(id))
+    if (CHeadlessList* list = FindList(id)) {
         list->InsertColumn(index, column);
+    }
 }
 
 int CHeadlessView::InsertRow(ControlId id, int index, std::string_view text) {
@@ -123,8 +131,9 @@ int CHeadlessView::InsertRow(ControlId id, int index, std::string_view text) {
 }
 
 void CHeadlessView::SetCell(ControlId id, int row, int column, std::string_view text) {
-    if (CHeadlessList* list = FindList(id))
+    if (CHeadlessList* list = FindList(id)) {
         list->SetCell(row, column, text);
+    }
 }
 
 std::string CHeadlessView::GetCell(ControlId id, int row, int column) const {
@@ -133,8 +142,9 @@ std::string CHeadlessView::GetCell(ControlId id, int row, int column) const {
 }
 
 void CHeadlessView::SetRowKey(ControlId id, int row, std::uint32_t key) {
-    if (CHeadlessList* list = FindList(id))
+    if (CHeadlessList* list = FindList(id)) {
         list->SetRowKey(row, key);
+    }
 }
 
 std::uint32_t CHeadlessView::GetRowKey(ControlId id, int row) const {
@@ -143,8 +153,9 @@ std::uint32_t CHeadlessView::GetRowKey(ControlId id, int row) const {
 }
 
 void CHeadlessView::RemoveAllRows(ControlId id) {
-    if (CHeadlessList* list = FindList(id))
+    if (CHeadlessList* list = FindList(id)) {
         list->RemoveAllRows();
+    }
 }
 
 int CHeadlessView::GetRowCount(ControlId id) const {
@@ -153,8 +164,9 @@ int CHeadlessView::GetRowCount(ControlId id) const {
 }
 
 void CHeadlessView::SelectRow(ControlId id, int row, bool selected) {
-    if (CHeadlessList* list = FindList(id))
+    if (CHeadlessList* list = FindList(id)) {
         list->SelectRow(row, selected);
+    }
 }
 
 std::vector<int> CHeadlessView::GetSelectedRows(ControlId id) const {
@@ -163,8 +175,9 @@ std::vector<int> CHeadlessView::GetSelectedRows(ControlId id) const {
 }
 
 void CHeadlessView::SetSelectionMark(ControlId id, int row) {
-    if (CHeadlessList* list = FindList(id))
+    if (CHeadlessList* list = FindList(id)) {
         list->SetSelectionMark(row);
+    }
 }
 
 int CHeadlessView::GetSelectionMark(ControlId id) const {
@@ -178,25 +191,29 @@ int CHeadlessView::GetFocusedRow(ControlId id) const {
 }
 
 void CHeadlessView::EnsureRowVisible(ControlId id, int row) {
-    if (CHeadlessList* list = FindList(id))
+    if (CHeadlessList* list = FindList(id)) {
         list->EnsureRowVisible(row);
+    }
 }
 
 void CHeadlessView::SetTextLimit(ControlId id, std::size_t characters) {
-    if (HeadlessControl* control = Find(id))
+    if (HeadlessControl* control = Find(id)) {
         control->textLimit = characters;
+    }
 }
 
 void CHeadlessView::AppendLog(ControlId log, std::string_view text) {
     HeadlessControl* control = Find(log);
-    if (control && control->IsLog())
+    if (control && control->IsLog()) {
         control->text += text;
+    }
 }
 
 void CHeadlessView::ClearLog(ControlId log) {
     HeadlessControl* control = Find(log);
-    if (control && control->IsLog())
+    if (control && control->IsLog()) {
         control->text.clear();
+    }
 }
 
 void CHeadlessView::SetProgressRange(ControlId bar, int maximum) {
@@ -207,13 +224,15 @@ void CHeadlessView::SetProgressRange(ControlId bar, int maximum) {
 }
 
 void CHeadlessView::SetProgressPosition(ControlId bar, int position) {
-    if (HeadlessControl* control = Find(bar))
+    if (HeadlessControl* control = Find(bar)) {
         control->progressPosition = std::clamp(position, 0, control->progressMaximum);
+    }
 }
 
 void CHeadlessView::EndDialog(int result) {
-    if (m_kind == ViewKind::Dialog)
+    if (m_kind == ViewKind::Dialog) {
         m_result = result;
+    }
 }
 
 const HeadlessControl* CHeadlessView::Find(ControlId id) const {
@@ -225,19 +244,22 @@ HeadlessControl* CHeadlessView::Find(ControlId id) {
 }
 
 void CHeadlessView::DeliverPendingFocus(const HeadlessControl& control) {
-    if (control.id != m_pendingFocus || !control.IsUsable())
+    if (control.id != m_pendingFocus || !control.IsUsable()) {
         return;
+    }
     m_focus = control.id;
     m_pendingFocus = kNoControl;
 }
 
 // A control that is merely switched off for a while gets the focus back afterwards.
 void CHeadlessView::WithdrawFocus(const HeadlessControl& control) {
-    if (control.id != m_focus)
+    if (control.id != m_focus) {
         return;
+    }
     m_focus = kNoControl;
-    if (m_pendingFocus == kNoControl)
+    if (m_pendingFocus == kNoControl) {
         m_pendingFocus = control.id;
+    }
 }
 
 }

@@ -29,8 +29,9 @@ constexpr panel::Point CentreOf(const panel::Rectangle& rectangle) {
 // The handler is called last: the view may be gone when it returns.
 bool CHeadlessView::Press(ControlId button) {
     const HeadlessControl* control = FindUsable(button);
-    if (!control || !control->IsButton())
+    if (!control || !control->IsButton()) {
         return false;
+    }
     SetFocus(button);
     m_handler.OnCommand(button);
     return true;
@@ -38,35 +39,40 @@ bool CHeadlessView::Press(ControlId button) {
 
 bool CHeadlessView::PressMnemonic(char letter) {
     for (const HeadlessControl& control : m_controls) {
-        if (control.mnemonic == letter && control.IsButton() && control.IsUsable())
+        if (control.mnemonic == letter && control.IsButton() && control.IsUsable()) {
             return Press(control.id);
+        }
     }
     return false;
 }
 
 bool CHeadlessView::PressKeyInList(ControlId list, std::uint16_t virtualKey) {
     CHeadlessList* target = EnterList(list);
-    if (!target)
+    if (!target) {
         return false;
+    }
     const std::weak_ptr<bool> alive = m_alive;
     m_handler.OnListKeyDown(list, virtualKey);
-    if (!alive.expired())
+    if (!alive.expired()) {
         target->PressKey(virtualKey);
+    }
     return true;
 }
 
 bool CHeadlessView::ClickRow(ControlId list, int row, Modifier modifier) {
     CHeadlessList* target = EnterList(list);
-    if (!target || !target->HasRow(row))
+    if (!target || !target->HasRow(row)) {
         return false;
+    }
     target->Click(row, modifier);
     return true;
 }
 
 bool CHeadlessView::RightClick(ControlId list, int row) {
     CHeadlessList* target = EnterList(list);
-    if (!target || (row != panel::kNoRow && !target->HasRow(row)))
+    if (!target || (row != panel::kNoRow && !target->HasRow(row))) {
         return false;
+    }
     target->RightClick(row);
     const HeadlessControl& control = *Find(list);
     const int clickedRow = row == panel::kNoRow ? target->GetRowCount() : row;
@@ -117,39 +123,46 @@ bool CHeadlessView::Choose(ControlId list, std::string_view text) {
 }
 
 void CHeadlessView::RequestHelp() {
-    if (!TakesInput())
+    if (!TakesInput()) {
         return;
+    }
     const HeadlessControl* focused = Find(m_focus);
     m_handler.OnHelp(focused ? focused->helpContext : 0);
 }
 
 void CHeadlessView::PressTab() {
-    if (!TakesInput())
+    if (!TakesInput()) {
         return;
+    }
     const auto focused = std::ranges::find(m_controls, m_focus, &HeadlessControl::id);
     const auto start = focused == m_controls.end() ? m_controls.begin() : focused + 1;
     const auto isStop = [](const HeadlessControl& control) {
         return control.CanHaveFocus() && control.IsUsable();
     };
     auto next = std::find_if(start, m_controls.end(), isStop);
-    if (next == m_controls.end())
+    if (next == m_controls.end()) {
         next = std::ranges::find_if(m_controls, isStop);
-    if (next != m_controls.end())
+    }
+    if (next != m_controls.end()) {
         SetFocus(next->id);
+    }
 }
 
 void CHeadlessView::PressReturn() {
-    if (m_kind != ViewKind::Dialog || !TakesInput())
+    if (m_kind != ViewKind::Dialog || !TakesInput()) {
         return;
+    }
     const auto button =
         std::ranges::find(m_controls, panel::ControlKind::DefaultButton, &HeadlessControl::kind);
-    if (button != m_controls.end() && button->IsUsable())
+    if (button != m_controls.end() && button->IsUsable()) {
         m_handler.OnCommand(button->id);
+    }
 }
 
 void CHeadlessView::PressEscape() {
-    if (m_kind == ViewKind::Dialog && TakesInput())
+    if (m_kind == ViewKind::Dialog && TakesInput()) {
         m_handler.OnCommand(panel::kCancelButton);
+    }
 }
 
 int CHeadlessView::FrameComputations(ControlId id) const {
@@ -171,8 +184,9 @@ HeadlessProgress CHeadlessView::Progress(ControlId bar) const {
 // Moving a control keeps its place, so the order is for ever that of the template.
 std::vector<ControlId> CHeadlessView::StackingOrder() const {
     std::vector<ControlId> order;
-    for (const HeadlessControl& control : m_controls)
+    for (const HeadlessControl& control : m_controls) {
         order.push_back(control.id);
+    }
     return order;
 }
 
@@ -239,8 +253,9 @@ HeadlessControl* CHeadlessView::Enter(ControlId id, panel::ControlKind kind) {
 
 CHeadlessList* CHeadlessView::EnterList(ControlId id) {
     HeadlessControl* control = FindUsable(id);
-    if (!control || !control->list)
+    if (!control || !control->list) {
         return nullptr;
+    }
     SetFocus(id);
     return control->list.get();
 }

@@ -21,8 +21,9 @@ constexpr std::uint32_t kYesAndNo = 4;
 constexpr bool IsQuestion(std::uint32_t style) { return (style & kButtonsMask) == kYesAndNo; }
 
 constexpr bool CanAnswer(std::uint32_t style, std::int32_t button) {
-    if (button == kEscape)
+    if (button == kEscape) {
         return true;
+    }
     return IsQuestion(style) ? button == kYes || button == kNo : button == kOk;
 }
 
@@ -71,21 +72,24 @@ void CPromptQueue::CancelFileDialog() {
 std::int32_t CPromptQueue::ShowBox(const std::string& text, const std::string& caption,
                                    std::uint32_t style, CWindowStack& windows) {
     const std::optional<Step> step = TakeBoxStep(style);
-    if (!step)
+    if (!step) {
         NoteUnexpected("box \"" + caption + "\": " + text);
+    }
     const bool isButton = step && step->code != kEscape;
     const std::int32_t answer = isButton ? step->code : EscapeAnswer(style);
     m_boxes.push_back({text, caption, style, answer});
     const CWindowStack::BoxScope isOpen(windows);
-    if (step && step->whileOpen)
+    if (step && step->whileOpen) {
         step->whileOpen();
+    }
     return answer;
 }
 
 std::optional<int> CPromptQueue::TakeDialogFailure(int templateId, panel::Owner owner) {
     const std::optional<Step> step = TakeStep(Kind::DialogFailure);
-    if (!step)
+    if (!step) {
         return std::nullopt;
+    }
     m_dialogs.push_back({templateId, owner, panel::DialogOutcome::Failed(step->code)});
     return step->code;
 }
@@ -142,8 +146,9 @@ panel::FileOutcome CPromptQueue::ActInFileDialog(CHeadlessFileDialog& dialog) {
 }
 
 std::optional<CPromptQueue::Step> CPromptQueue::TakeStep(Kind kind) {
-    if (m_steps.empty() || m_steps.front().kind != kind)
+    if (m_steps.empty() || m_steps.front().kind != kind) {
         return std::nullopt;
+    }
     Step step = std::move(m_steps.front());
     m_steps.pop_front();
     return step;
@@ -170,8 +175,9 @@ bool CPromptQueue::GiveStandingAnswer(CHeadlessView& view) const {
 }
 
 void CPromptQueue::NoteUnexpected(const std::string& prompt) {
-    if (m_isAttended)
+    if (m_isAttended) {
         m_unexpected.push_back(prompt);
+    }
 }
 
 }

@@ -51,8 +51,9 @@ std::string LineOf(std::string_view text) {
 
 std::string FormatFields(const std::vector<PictureField>& fields) {
     std::size_t labelWidth = 0;
-    for (const PictureField& field : fields)
+    for (const PictureField& field : fields) {
         labelWidth = std::max(labelWidth, CountCharacters(field.label));
+    }
     std::string text;
     for (const PictureField& field : fields) {
         CLine line;
@@ -65,42 +66,49 @@ std::string FormatFields(const std::vector<PictureField>& fields) {
 
 std::vector<std::size_t> ColumnWidths(const TextPicture& picture) {
     std::vector<std::size_t> widths;
-    for (const PictureColumn& column : picture.columns)
+    for (const PictureColumn& column : picture.columns) {
         widths.push_back(CountCharacters(column.heading));
+    }
     for (const std::vector<std::string>& row : picture.rows) {
-        for (std::size_t column = 0; column < std::min(row.size(), widths.size()); ++column)
+        for (std::size_t column = 0; column < std::min(row.size(), widths.size()); ++column) {
             widths[column] = std::max(widths[column], CountCharacters(row[column]));
+        }
     }
     return widths;
 }
 
 std::string FormatList(const TextPicture& picture) {
-    if (picture.columns.empty())
+    if (picture.columns.empty()) {
         return {};
+    }
     const std::vector<std::size_t> widths = ColumnWidths(picture);
     const auto addTo = [&](CLine& line, std::size_t column, std::string_view text) {
         line.Add(text, widths[column], picture.columns[column].alignment);
     };
     std::string text = picture.listTitle.empty() ? std::string() : LineOf(picture.listTitle);
     CLine headings;
-    for (std::size_t column = 0; column < widths.size(); ++column)
+    for (std::size_t column = 0; column < widths.size(); ++column) {
         addTo(headings, column, picture.columns[column].heading);
+    }
     text += headings.Take();
     for (const std::vector<std::string>& row : picture.rows) {
         CLine line;
-        for (std::size_t column = 0; column < std::min(row.size(), widths.size()); ++column)
+        for (std::size_t column = 0; column < std::min(row.size(), widths.size()); ++column) {
             addTo(line, column, row[column]);
+        }
         text += line.Take();
     }
     return text;
 }
 
 std::string FormatLog(const TextPicture& picture) {
-    if (picture.logLines.empty())
+    if (picture.logLines.empty()) {
         return {};
+    }
     std::string text = picture.logTitle.empty() ? std::string() : LineOf(picture.logTitle);
-    for (const std::string& line : picture.logLines)
+    for (const std::string& line : picture.logLines) {
         text += LineOf(line);
+    }
     return text;
 }
 
@@ -115,8 +123,9 @@ std::string FormatTextPicture(const TextPicture& picture) {
     };
     std::string text;
     for (const std::string& part : parts) {
-        if (!part.empty() && !text.empty())
+        if (!part.empty() && !text.empty()) {
             text += "\n";
+        }
         text += part;
     }
     return text;

@@ -33,11 +33,13 @@ constexpr bool IsContinuation(char byte) {
 }
 
 bool IsSequence(std::string_view text, const LeadBytes& lead) {
-    if (text.size() < lead.length)
+    if (text.size() < lead.length) {
         return false;
+    }
     if (lead.length > 1 &&
-        !IsIn(static_cast<unsigned char>(text[1]), lead.secondFirst, lead.secondLast))
+        !IsIn(static_cast<unsigned char>(text[1]), lead.secondFirst, lead.secondLast)) {
         return false;
+    }
     return lead.length < 3 ||
            std::all_of(text.begin() + 2, text.begin() + lead.length, IsContinuation);
 }
@@ -46,8 +48,9 @@ bool IsSequence(std::string_view text, const LeadBytes& lead) {
 std::size_t CharacterLength(std::string_view text) {
     const auto byte = static_cast<unsigned char>(text.front());
     for (const LeadBytes& lead : kLeadBytes) {
-        if (IsIn(byte, lead.first, lead.last))
+        if (IsIn(byte, lead.first, lead.last)) {
             return IsSequence(text, lead) ? lead.length : 0;
+        }
     }
     return 0;
 }

@@ -37,32 +37,35 @@ public:
     TextPicture Paint(const panel::DialogTemplate& dialogTemplate) {
         m_picture.title = dialogTemplate.title;
         for (const ControlTemplate& control : dialogTemplate.controls) {
-            if (m_view.IsVisible(control.id))
+            if (m_view.IsVisible(control.id)) {
                 Add(control);
+            }
         }
         return std::move(m_picture);
     }
 
 private:
     void Add(const ControlTemplate& control) {
-        if (control.kind == GroupBox)
+        if (control.kind == GroupBox) {
             AddGroup(m_view.GetText(control.id));
-        else if (control.kind == Label)
+        } else if (control.kind == Label) {
             m_label = m_view.GetText(control.id);
-        else if (control.kind == TextField || control.kind == NumberField ||
-                 control.kind == EditField)
+        } else if (control.kind == TextField || control.kind == NumberField ||
+                   control.kind == EditField) {
             m_picture.fields.push_back({std::exchange(m_label, {}), m_view.GetText(control.id)});
-        else if (control.kind == Log)
+        } else if (control.kind == Log) {
             AddLog(control.id);
-        else if (IsList(control) && m_picture.columns.empty())
+        } else if (IsList(control) && m_picture.columns.empty()) {
             AddList(control.id);
+        }
     }
 
     void AddGroup(std::string title) {
-        if (m_picture.title.empty())
+        if (m_picture.title.empty()) {
             m_picture.title = std::move(title);
-        else
+        } else {
             m_group = std::move(title);
+        }
     }
 
     void AddLog(panel::ControlId log) {
@@ -75,8 +78,9 @@ private:
         m_picture.columns = m_columns;
         for (int row = 0; row < m_view.GetRowCount(list); ++row) {
             std::vector<std::string>& cells = m_picture.rows.emplace_back();
-            for (int column = 0; column < static_cast<int>(m_columns.size()); ++column)
+            for (int column = 0; column < static_cast<int>(m_columns.size()); ++column) {
                 cells.push_back(m_view.GetCell(list, row, column));
+            }
         }
     }
 
@@ -97,10 +101,12 @@ TextPicture PictureOf(const panel::IView& view, const panel::DialogTemplate& dia
 TextPicture PictureOf(const CHeadlessView& view) {
     std::vector<PictureColumn> columns;
     for (const ControlTemplate& control : view.Template().controls) {
-        if (!IsList(control) || !view.IsVisible(control.id))
+        if (!IsList(control) || !view.IsVisible(control.id)) {
             continue;
-        for (const HeadlessColumn& column : view.Columns(control.id))
+        }
+        for (const HeadlessColumn& column : view.Columns(control.id)) {
             columns.push_back({column.heading, column.alignment});
+        }
         break;
     }
     return PictureOf(view, view.Template(), columns);

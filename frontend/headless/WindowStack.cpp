@@ -12,8 +12,9 @@ void CWindowStack::OpenPanel(CHeadlessView& view) {
 
 void CWindowStack::Close(CHeadlessView& view) {
     std::erase(m_windows, &view);
-    if (m_panelView == &view)
+    if (m_panelView == &view) {
         m_panelView = nullptr;
+    }
 }
 
 bool CWindowStack::IsActive(const CHeadlessView& view) const {
