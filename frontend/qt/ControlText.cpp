@@ -19,7 +19,7 @@ using panel::ControlKind;
 
 // What frame and toolkit take of a control's width.
 constexpr int kFieldMarginPixels = 8;
-constexpr int kButtonMarginPixels = 4;
+constexpr int kButtonMarginPixels = 8;
 
 void FitText(QWidget& widget, const QString& text, int room) {
     widget.setFont(FitFont(widget.parentWidget()->font(), text, room));
@@ -61,12 +61,12 @@ bool HasText(ControlKind kind) {
 void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
     switch (kind) {
     case ControlKind::GroupBox:
-        static_cast<QGroupBox&>(widget).setTitle(WithoutMnemonic(text));
+        static_cast<QGroupBox&>(widget).setTitle(EscapeMnemonics(text));
         break;
     case ControlKind::Label:
     case ControlKind::CentredLabel: {
         auto& label = static_cast<QLabel&>(widget);
-        label.setText(label.buddy() ? WithoutMnemonic(text) : text);
+        label.setText(label.buddy() ? EscapeMnemonics(text) : text);
         break;
     }
     case ControlKind::TextField:
@@ -80,7 +80,7 @@ void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
     case ControlKind::CheckBox:
     case ControlKind::Button:
     case ControlKind::DefaultButton:
-        static_cast<QAbstractButton&>(widget).setText(WithoutMnemonic(text));
+        static_cast<QAbstractButton&>(widget).setText(EscapeMnemonics(text));
         break;
     default:
         break;

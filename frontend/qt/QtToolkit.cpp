@@ -92,7 +92,9 @@ void CQtToolkit::ShowHelp(const std::string& file, std::uint32_t context, panel:
     if (!m_help) {
         m_help = new CHelpWindow;
     }
-    m_help->ShowTopic(file, context, FindOwner(owner));
+    // A modal dialog takes the input of every window but its own children.
+    QWidget* const modal = QApplication::activeModalWidget();
+    m_help->ShowTopic(file, context, modal ? modal : FindOwner(owner));
 }
 
 std::string CQtToolkit::GetComponentFolder() const { return FindComponentFolder(); }

@@ -8,7 +8,7 @@ QString ToQt(std::string_view text) {
 
 std::string FromQt(const QString& text) { return text.toStdString(); }
 
-QString WithoutMnemonic(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
+QString EscapeMnemonics(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
 
 QString WithoutMnemonicMark(QString text) {
     for (qsizetype mark = text.indexOf(u'&'); mark >= 0; mark = text.indexOf(u'&', mark + 1)) {

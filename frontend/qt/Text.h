@@ -14,7 +14,7 @@ QString ToQt(std::string_view text);
 std::string FromQt(const QString& text);
 
 /// `text` for a widget that takes "&" as the mark of a mnemonic: shown as it is, marking none.
-QString WithoutMnemonic(QString text);
+QString EscapeMnemonics(QString text);
 
 /// What the user reads of a text in which "&" marks the mnemonic.
 QString WithoutMnemonicMark(QString text);
