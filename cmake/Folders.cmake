@@ -7,27 +7,47 @@ function(krx8_add_folder name)
   else()
     add_library(${name} STATIC ${ARG_SOURCES})
   endif()
+  if(KRX8_SANITIZE)
+    target_compile_options(${name} PRIVATE
+      -fsanitize=${KRX8_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  endif()
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ARG_LINKS})
 endfunction()
 
 # One test program, each of its tests known to ctest by name. A prefix keeps tests apart that several
 # programs share.
+#
+# Under sanitizers the code under test is checked, and the libraries that tests share. The tests' own
+# sources are compiled as ever, which spares half the build: ccache has them from the preset dev. And
+# ctest knows the program as a few shards, since starting a process costs more than most tests.
 function(krx8_add_tests name)
   cmake_parse_arguments(ARG "" "PREFIX" "SOURCES;LINKS;PRECOMPILE;ENVIRONMENT;PROPERTIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   # What nearly every test includes takes longer to read than the test itself.
   target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <gmock/gmock.h> ${ARG_PRECOMPILE})
-  if(KRX8_SANITIZE MATCHES undefined)
-    # The code under test is checked, and the tests' own memory; checking also each operation of a
-    # test's matchers would double the build.
-    target_compile_options(${name} PRIVATE -fno-sanitize=undefined)
-  endif()
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gmock GTest::gtest_main)
   # An empty environment would make a variable of the property after it.
   if(ARG_ENVIRONMENT)
     list(APPEND ARG_PROPERTIES ENVIRONMENT "${ARG_ENVIRONMENT}")
   endif()
+  if(KRX8_SANITIZE)
+    krx8_add_shards(${name} "${ARG_PREFIX}" ${ARG_PROPERTIES})
+    return()
+  endif()
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES TEST_PREFIX "${ARG_PREFIX}"
                        PROPERTIES TIMEOUT 120 ${ARG_PROPERTIES})
+endfunction()
+
+# The tests of a program as a few processes that can run at the same time.
+function(krx8_add_shards name prefix)
+  set(count 4)
+  math(EXPR last "${count} - 1")
+  foreach(index RANGE ${last})
+    set(shard "${prefix}${name}.${index}")
+    add_test(NAME ${shard}
+             COMMAND ${CMAKE_COMMAND} -E env GTEST_TOTAL_SHARDS=${count} GTEST_SHARD_INDEX=${index}
+                     GTEST_BRIEF=1 $<TARGET_FILE:${name}>)
+    set_tests_properties(${shard} PROPERTIES TIMEOUT 600 ${ARGN})
+  endforeach()
 endfunction()

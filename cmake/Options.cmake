@@ -34,6 +34,5 @@ if(KRX8_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 if(KRX8_SANITIZE)
-  add_compile_options(-fsanitize=${KRX8_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${KRX8_SANITIZE})
 endif()
