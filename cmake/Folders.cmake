@@ -31,6 +31,10 @@ function(krx8_add_tests name)
   if(ARG_ENVIRONMENT)
     list(APPEND ARG_PROPERTIES ENVIRONMENT "${ARG_ENVIRONMENT}")
   endif()
+  if(CMAKE_CROSSCOMPILING)
+    krx8_add_emulated(${name} "${ARG_PREFIX}" ${ARG_PROPERTIES})
+    return()
+  endif()
   if(KRX8_SANITIZE)
     krx8_add_shards(${name} "${ARG_PREFIX}" ${ARG_PROPERTIES})
     return()
@@ -50,4 +54,17 @@ function(krx8_add_shards name prefix)
                      GTEST_BRIEF=1 $<TARGET_FILE:${name}>)
     set_tests_properties(${shard} PROPERTIES TIMEOUT 600 ${ARGN})
   endforeach()
+endfunction()
+
+# The tests of a program for another system as one process, since starting one there takes longest.
+# Programs share the emulated system, so that they take turns.
+function(krx8_add_emulated name prefix)
+  set(test "${prefix}${name}")
+  # Relative, as the two systems write full paths in different ways.
+  set(result ${test}.xml)
+  add_test(NAME ${test}
+           COMMAND ${CMAKE_CROSSCOMPILING_EMULATOR} --result ${result} $<TARGET_FILE:${name}>
+                   --gtest_brief=1 --gtest_output=xml:${result})
+  set_tests_properties(${test} PROPERTIES TIMEOUT 600 RESOURCE_LOCK emulator
+                       FIXTURES_REQUIRED emulator ${ARGN})
 endfunction()

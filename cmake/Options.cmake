@@ -1,3 +1,6 @@
+# Where an installed tree keeps its libraries; programs in bin/ find them from there.
+set(KRX8_LIBRARY_FOLDER lib/krx8)
+
 option(KRX8_TESTS "Build the tests" ON)
 option(KRX8_BENCH "Build the benchmarks" OFF)
 set(KRX8_SANITIZE "" CACHE STRING "Sanitizers, as in -fsanitize=")
@@ -13,10 +16,11 @@ if(NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE Release)
 endif()
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+# The compiler of Windows resources takes none of these.
+add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wshadow;-Wnon-virtual-dtor;-Werror>")
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # False alarms on joined std::strings in optimised builds (gcc bug 105651).
-  add_compile_options(-Wno-restrict)
+  add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
 endif()
 # Full debug information of the toolkit's headers doubles the build for nothing that a test needs.
 string(REPLACE "-g" "-g1" CMAKE_CXX_FLAGS_DEBUG "${CMAKE_CXX_FLAGS_DEBUG}")
@@ -25,11 +29,10 @@ string(REPLACE "-g" "-g1" CMAKE_CXX_FLAGS_DEBUG "${CMAKE_CXX_FLAGS_DEBUG}")
 find_program(KRX8_CCACHE ccache)
 if(KRX8_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER
-      ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
-      CCACHE_SLOPPINESS=pch_defines,time_macros ${KRX8_CCACHE})
+      ${CMAKE_CURRENT_LIST_DIR}/CompileCached.sh ${KRX8_CCACHE} ${PROJECT_SOURCE_DIR})
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Without it nothing that uses a precompiled header is kept.
-    add_compile_options(-fpch-preprocess)
+    add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
   endif()
 endif()
 

@@ -1,6 +1,7 @@
 #include "simulator/Device.h"
 
 #include "simulator/device/SelfTestRun.h"
+#include "simulator/device/StartMode.h"
 
 #include <algorithm>
 #include <utility>
@@ -112,10 +113,7 @@ Outcome CDevice::Restart() {
     EnterMode(kMaintenanceMode);
     auto next = State();
     RunStartUpTests(next);
-    // Maintenance mode is the device's way of waiting for its restart.
-    if (next.mode == kMaintenanceMode) {
-        next.mode = kNormalMode;
-    }
+    next.mode = ModeAfterStart(next);
     auto failure = Change(std::move(next));
     EnterMode(m_description.mode);
     return failure;

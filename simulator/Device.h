@@ -32,7 +32,7 @@ public:
     explicit CDevice(DeviceDescription description, std::unique_ptr<IDeviceStore> store = nullptr);
 
     /// What the device holds now, but for the files, which are in Files(). Its `mode` is the one
-    /// in which the device starts.
+    /// in which the device is found when it is opened again.
     const DeviceDescription& Description() const { return m_description; }
 
     /// The mode the device is in.
@@ -57,7 +57,7 @@ public:
 
     /// Carries out a mode request; the mode events are raised before it returns. Normal is refused
     /// with kNotReady while the application software's self-test has failed. Reset goes through
-    /// Maintenance mode, runs the self-tests and ends in the mode in which the device starts.
+    /// Maintenance mode, runs the self-tests and ends in ModeAfterStart.
     /// kInvalidArgument for a request that does not exist.
     contract::Status RequestMode(contract::ModeRequest request);
 

@@ -133,7 +133,7 @@ struct DeviceLoss {
 
 struct DeviceDescription {
     std::int32_t type = kKrx20;
-    /// The mode in which the device starts.
+    /// The mode in which the device is when it is opened.
     std::int32_t mode = kNormalMode;
     std::int32_t serialNumber = 0;
     std::string hardwareVersion;

@@ -7,7 +7,10 @@ program=$(basename "$0")
 # Debian 12 package names.
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev nlohmann-json3-dev libinih-dev
                 fonts-dejavu-core)
-test_packages=(libgtest-dev libgmock-dev libqt6test6 xvfb xdotool)
+test_packages=(libgtest-dev libgmock-dev libqt6test6 libxcb1-dev xvfb xdotool)
+# To make the programs for Windows, and to run them.
+windows_packages=(gcc-mingw-w64-x86-64-posix g++-mingw-w64-x86-64-posix gcc-mingw-w64-i686-posix
+                  g++-mingw-w64-i686-posix mingw-w64-tools googletest wine wine64 fonts-wine)
 
 say() { echo "$program: $*" >&2; }
 
@@ -53,13 +56,16 @@ install_missing() { # PACKAGE...
         apt-get install -y -qq -o Dpkg::Use-Pty=0 --no-install-recommends "${missing[@]}"
 }
 
-# configure PRESET FOLDER [ARGUMENT]...: once a folder; the build itself notices later changes.
+# configure PRESET FOLDER [ARGUMENT]...: once a folder; the build itself notices later changes, but
+# not that it was moved or copied from another clone.
 configure() {
-    local preset=$1 folder=$2
+    local preset=$1 folder=$2 home
     shift 2
-    [[ -f $root/build/$folder/build.ninja ]] && return
+    home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$root/build/$folder/CMakeCache.txt" \
+        2>/dev/null)
+    [[ -f $root/build/$folder/build.ninja && $home -ef $root ]] && return
     cd "$root" || exit 1
-    step "configuring build/$folder" cmake --preset "$preset" -B "build/$folder" "$@"
+    step "configuring build/$folder" cmake --fresh --preset "$preset" -B "build/$folder" "$@"
     cd - >/dev/null || exit 1
 }
 

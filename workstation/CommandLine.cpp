@@ -1,5 +1,6 @@
 #include "workstation/CommandLine.h"
 
+#include "simulator/folder/MessageText.h"
 #include "workstation/HelpText.h"
 
 #include <optional>
@@ -57,7 +58,8 @@ private:
             }
         }
         const bool isOption = argument.starts_with('-');
-        return (isOption ? "unknown option '" : "unexpected argument '") + argument + "'";
+        return (isOption ? "unknown option '" : "unexpected argument '") +
+               simulator::EscapeForMessage(argument) + "'";
     }
 
     Reason ParseValue(const ValueOption& option, const std::string& argument, std::size_t equals) {

@@ -5,38 +5,36 @@
 #include <QApplication>
 #include <QEvent>
 
+#include <algorithm>
+#include <iterator>
+
 namespace workstation {
 
 namespace {
 
-bool IsInput(QEvent::Type type) {
-    switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride:
-    case QEvent::Shortcut:
-    case QEvent::InputMethod:
-    case QEvent::ContextMenu:
-    case QEvent::TabletPress:
-    case QEvent::TabletMove:
-    case QEvent::TabletRelease:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::NativeGesture:
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-    case QEvent::Drop:
-        return true;
-    default:
-        return false;
-    }
-}
+constexpr QEvent::Type kInputs[] = {QEvent::MouseButtonPress,
+                                    QEvent::MouseButtonRelease,
+                                    QEvent::MouseButtonDblClick,
+                                    QEvent::MouseMove,
+                                    QEvent::Wheel,
+                                    QEvent::KeyPress,
+                                    QEvent::KeyRelease,
+                                    QEvent::ShortcutOverride,
+                                    QEvent::Shortcut,
+                                    QEvent::InputMethod,
+                                    QEvent::ContextMenu,
+                                    QEvent::TabletPress,
+                                    QEvent::TabletMove,
+                                    QEvent::TabletRelease,
+                                    QEvent::TouchBegin,
+                                    QEvent::TouchUpdate,
+                                    QEvent::TouchEnd,
+                                    QEvent::NativeGesture,
+                                    QEvent::DragEnter,
+                                    QEvent::DragMove,
+                                    QEvent::Drop};
+
+bool IsInput(QEvent::Type type) { return std::ranges::find(kInputs, type) != std::end(kInputs); }
 
 }
 

@@ -111,6 +111,7 @@ void CPanelHost::Disconnect() {
 
 void CPanelHost::Reconnect() {
     RunWhenIdle([this] {
+        MendHandOver();
         const CConnectionGate::COpening opening(*m_gate);
         m_host.BringBackLostDevice();
     });
@@ -129,8 +130,7 @@ void CPanelHost::HandOver(const std::string& name, std::shared_ptr<simulator::CD
     if (device) {
         Insert(name, std::move(device));
     }
-    // A failure is the panel's to report.
-    static_cast<void>(m_panel->SetSubsystemAccess(m_access));
+    GiveAccess();
     static_cast<void>(m_panel->SetConnection(m_connection));
     WatchConnection();
     WatchProgress();
@@ -150,9 +150,39 @@ void CPanelHost::Swap(const std::string& name, std::shared_ptr<simulator::CDevic
     m_deviceName.clear();
     if (device) {
         Insert(name, std::move(device));
+        MendHandOver();
         Raise(contract::kConnectionDeviceReady);
     }
     m_observer.ConnectionChanged();
+}
+
+void CPanelHost::GiveAccess() {
+    // A failure is the panel's to report.
+    m_hasGivenAccess = m_panel->SetSubsystemAccess(m_access).IsSuccess();
+}
+
+// Much of the hand-over is done once, and the knobs of the device that is there then may fail it.
+// The devices after it would never be seen.
+void CPanelHost::MendHandOver() {
+    if (!m_hasGivenAccess) {
+        GiveAccess();
+    }
+    if (!HearsConnection()) {
+        // The one that the panel holds already changes nothing.
+        static_cast<void>(m_panel->SetConnection(nullptr));
+        static_cast<void>(m_panel->SetConnection(m_connection));
+    }
+    if (!m_unwatchConnection) {
+        WatchConnection();
+    }
+    if (!m_unwatchProgress) {
+        WatchProgress();
+    }
+}
+
+bool CPanelHost::HearsConnection() const {
+    const std::size_t ownSinks = m_unwatchConnection ? 1 : 0;
+    return m_host.ConnectionSubscriberCount() > ownSinks;
 }
 
 void CPanelHost::Insert(const std::string& name, std::shared_ptr<simulator::CDevice> device) {

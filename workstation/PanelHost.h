@@ -87,6 +87,9 @@ private:
     bool IsPanelBusy() const;
     void HandOver(const std::string& name, std::shared_ptr<simulator::CDevice> device);
     void Swap(const std::string& name, std::shared_ptr<simulator::CDevice> device);
+    void GiveAccess();
+    void MendHandOver();
+    bool HearsConnection() const;
     void Insert(const std::string& name, std::shared_ptr<simulator::CDevice> device);
     void Raise(std::int32_t state);
     void OnConnectionState(std::int32_t state);
@@ -110,6 +113,7 @@ private:
     std::function<void()> m_unwatchProgress;
     std::string m_deviceName;
     bool m_isConnected = false;
+    bool m_hasGivenAccess = false;
     std::shared_ptr<contract::IPanel> m_panel;
 };
 

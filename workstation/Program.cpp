@@ -1,5 +1,6 @@
 #include "workstation/Program.h"
 
+#include "component/loader/ComponentLibrary.h"
 #include "simulator/DeviceFolder.h"
 #include "simulator/folder/MessageText.h"
 #include "workstation/CommandLine.h"
@@ -8,11 +9,12 @@
 #include "workstation/Offscreen.h"
 #include "workstation/PanelFactory.h"
 #include "workstation/PanelPicture.h"
+#include "workstation/PictureFile.h"
 #include "workstation/PromptAnswerer.h"
 #include "workstation/ToolkitMessages.h"
 
 #include <QApplication>
-#include <QSaveFile>
+#include <QMessageBox>
 
 #include <cerrno>
 #include <cstdio>
@@ -39,6 +41,7 @@ void WriteError(const char* reason) { std::fprintf(stderr, "krx8-workstation: %s
 /// Ends the program with one line on stderr.
 struct Refusal {
     std::string reason;
+    int status = kRefused;
 };
 
 Options ReadCommandLine(int argc, char** argv) {
@@ -89,16 +92,15 @@ void Print(const std::string& text) {
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() ||
         std::fflush(stdout) != 0) {
         throw Refusal{"cannot write to the standard output: " +
-                      std::generic_category().message(errno)};
+                          std::generic_category().message(errno),
+                      kFailed};
     }
 }
 
 void WritePicture(QWidget& window, const Path& file) {
-    QSaveFile picture(QString::fromStdString(file.string()));
-    if (!picture.open(QIODevice::WriteOnly) || !window.grab().save(&picture, "PNG") ||
-        !picture.commit()) {
+    if (const auto error = WritePictureFile(window.grab(), file)) {
         throw Refusal{simulator::EscapeForMessage(file.string()) +
-                      ": cannot be written: " + picture.errorString().toStdString()};
+                      ": cannot be written: " + error.message()};
     }
 }
 
@@ -119,7 +121,8 @@ int RunWithoutUser(CMainWindow& window, const Options& options) {
     }
     if (!options.snapshot.empty()) {
         WritePicture(window, options.snapshot);
-        Print("The window is drawn in " + options.snapshot.string() + "\n");
+        Print("The window is drawn in " + simulator::EscapeForMessage(options.snapshot.string()) +
+              "\n");
     }
     return kDone;
 }
@@ -147,10 +150,29 @@ struct Start {
     Path root;
 };
 
+// Somebody who has started the program from a desktop sees no line on stderr.
+void TellInABox(const char* problem) {
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("KRX-8 Workstation"), {});
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromUtf8(problem));
+    box.exec();
+}
+
+std::shared_ptr<contract::IPanel> ObtainPanel(const Options& options) {
+    try {
+        return CreatePanel();
+    } catch (const component::ComponentUnavailable& problem) {
+        if (HasUser(options)) {
+            TellInABox(problem.what());
+        }
+        throw Refusal{simulator::EscapeForMessage(problem.what())};
+    }
+}
+
 int RunWindow(int argc, char** argv, const Options& options, const Start& start) {
     QApplication application(argc, argv);
     UseFontOfThePanel();
-    CMainWindow window(CreatePanel(), start.root);
+    CMainWindow window(ObtainPanel(options), start.root);
     window.Start(start.device);
     if (!HasUser(options)) {
         return RunWithoutUser(window, options);
@@ -183,7 +205,7 @@ int RunRefusing(int argc, char** argv) {
         return Run(argc, argv);
     } catch (const Refusal& refusal) {
         WriteError(refusal.reason.c_str());
-        return kRefused;
+        return refusal.status;
     }
 }
 

@@ -9,9 +9,9 @@ namespace contract {
 
 class IFileInfo;
 
-/// The files on the device at the moment of GetFileListing, in the device's own order. One call at
-/// a time, on the thread of the call (see ProgrammingDeviceControl.h); results are untouched on
-/// failure.
+/// The files on the device at the moment of GetFileListing, in the device's own order; the panel
+/// asks for them in Normal mode only. One call at a time, on the thread of the call (see
+/// ProgrammingDeviceControl.h); results are untouched on failure.
 class IFileListing {
 public:
     virtual ~IFileListing() = default;

@@ -22,7 +22,8 @@ public:
     virtual Status GetTotalRamSize(std::uint32_t& sizeBytes) = 0;
     /// Whole flash memory, bytes.
     virtual Status GetTotalFlashSize(std::uint32_t& sizeBytes) = 0;
-    /// Serial number; negative values are shown as they are.
+    /// Serial number; negative values are shown as they are. Not asked of the types 3 to 5, which
+    /// are shown with their MAC address instead.
     virtual Status GetSerialNumber(std::int32_t& serialNumber) = 0;
 };
 

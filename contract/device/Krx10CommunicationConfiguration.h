@@ -41,7 +41,8 @@ public:
     virtual Status GetSubnetMask(AddressValue& mask) = 0;
     virtual Status GetGateway(AddressValue& gateway) = 0;
     virtual Status GetUseDhcp(bool& useDhcp) = 0;
-    /// The name that a service point gave the device, UTF-8, meant to be at most 110 bytes.
+    /// The name that a service point gave the device, UTF-8, meant to be at most 110
+    /// characters, of which those beyond U+FFFF count as two.
     virtual Status GetDescription(std::string& description) = 0;
     /// Hardware address of the Ethernet interface as text.
     virtual Status GetMacAddress(std::string& text) = 0;
@@ -51,7 +52,7 @@ public:
     virtual Status SetDhcp(bool useDhcp) = 0;
     virtual Status SetSubnetMask(AddressValue mask) = 0;
     virtual Status SetGateway(AddressValue gateway) = 0;
-    /// UTF-8, at most 110 bytes from this panel.
+    /// UTF-8, at most 110 characters from this panel, counted likewise.
     virtual Status SetDescription(const std::string& description) = 0;
     /// Writes the copy to the device; all of it or nothing.
     virtual Status ApplyConfiguration() = 0;

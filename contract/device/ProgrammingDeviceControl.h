@@ -46,8 +46,10 @@ public:
 
     virtual Status GetHardwareInfo(std::shared_ptr<IHardwareInfo>& info) = 0;
     virtual Status GetSoftwareInfo(std::shared_ptr<ISoftwareInfo>& info) = 0;
+    /// The panel asks a KRX-8 or KRX-8C in Normal mode only, the others in every mode.
     virtual Status GetFreeResources(std::shared_ptr<IFreeResources>& resources) = 0;
     virtual Status GetSelfTestResults(std::shared_ptr<ISelfTestResults>& results) = 0;
+    /// The panel asks in Normal mode only.
     virtual Status GetFileListing(std::shared_ptr<IFileListing>& listing) = 0;
     virtual Status GetExternalStorages(std::shared_ptr<IExternalStorages>& storages) = 0;
 
@@ -58,8 +60,8 @@ public:
 
     /// Stores the file at `path` (UTF-8, absolute) on the device. destination: 0 the device's
     /// default, 1 RAM, 2 flash memory, 3 external storage. method: 0 the device's default, 1 force,
-    /// 2 only if the version is newer, 3 flashing. `result` is the device's own code, which the
-    /// panel ignores.
+    /// 2 only if the version is newer, 3 flashing. -1 in either: the choice could not be read.
+    /// `result` is the device's own code, which the panel ignores.
     virtual Status UploadPhoneFile(const std::string& path, std::int32_t destination,
                                    std::int32_t method, std::int32_t& result) = 0;
 

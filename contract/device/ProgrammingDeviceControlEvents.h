@@ -30,7 +30,9 @@ public:
 
     /// 2: progress. `text` is UTF-8 (empty: absent); `done` of `total` in a unit of the operation's
     /// choice (uploads count bytes); `total` 0 means a plain notice without a percentage. The panel
-    /// shows one line of at most 259 bytes and passes over one that says what the last one said.
+    /// shows one line of at most 259 bytes, or 260 with its percentage. It passes over a notice
+    /// with the text of the last line and, of lines with a percentage, over one that repeats text
+    /// and whole percentage.
     virtual Status DeviceMessage(const std::string& text, std::uint32_t done,
                                  std::uint32_t total) = 0;
 

@@ -39,7 +39,7 @@ public:
     /// be tried again.
     virtual Status CreateView(void* nativeParent) = 0;
 
-    /// The size at which the view looks as designed, from the font in use. Needs no view.
+    /// The size at which the view looks as designed, from the application's font. Needs no view.
     virtual PixelSize GetNaturalSize() const = 0;
 
     /// Gives the view a new size; widths and heights below 0 count as 0, above 65535 as that.

@@ -24,7 +24,9 @@ public:
     const panel::FileDialog& Dialog() const { return m_dialog; }
     CHeadlessView* Options() const { return m_options; }
 
-    /// Names a file and presses the button that takes it. False when the dialog stays open.
+    /// Names a file and presses the button that takes it. False when the dialog stays open. Every
+    /// name is taken, also of a file or in a folder that does not exist: the paths of tests are
+    /// made up, and files do vanish after they are chosen.
     bool Accept(const std::string& path);
     void Cancel();
     /// The system ends the dialog with an error.

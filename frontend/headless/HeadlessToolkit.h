@@ -14,8 +14,9 @@
 namespace headless {
 
 /// A toolkit without a screen: prompts take their answers from the desktop's queue, and all that is
-/// shown is noted there. The font is 7 x 13 pixels, so that the panel is 788 x 478.
-class CHeadlessToolkit final : public panel::IToolkit {
+/// shown is noted there. The font is 7 x 13 pixels, so that the panel is 788 x 478. A test may
+/// derive from it to do one verb its own way.
+class CHeadlessToolkit : public panel::IToolkit {
 public:
     CHeadlessToolkit();
     explicit CHeadlessToolkit(std::shared_ptr<HeadlessDesktop> desktop);

@@ -128,6 +128,8 @@ void CAddressField::Paste(const QString& text) {
     for (CAddressPart* const part : m_parts) {
         if (part->hasFocus() && IsNumber(pasted)) {
             part->insert(pasted);
+            // The next part may have the focus now.
+            return;
         }
     }
 }

@@ -7,7 +7,6 @@
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
 
-#include <algorithm>
 #include <utility>
 
 namespace qt {
@@ -31,18 +30,25 @@ CAddressPart::CAddressPart(CAddressPart* previous, QWidget* parent)
     setContextMenuPolicy(Qt::NoContextMenu);
     const QRegularExpression digits(QStringLiteral("[0-9]*"));
     setValidator(new QRegularExpressionValidator(digits, this));
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-        if (text.size() == kMostDigits && cursorPosition() == kMostDigits) {
-            MoveOn();
-        }
-    });
+    connect(this, &QLineEdit::textEdited, this, [this] { TakeEdit(); });
 }
 
 void CAddressPart::SetPasteListener(std::function<void(const QString&)> listener) {
     m_pasteListener = std::move(listener);
 }
 
-int CAddressPart::GetNumber() const { return std::min(text().toInt(), kGreatest); }
+// At once, and not only when the part is left: Return takes the dialog's default button without
+// leaving it, and what is applied must be what was shown.
+void CAddressPart::TakeEdit() {
+    if (text().toInt() > kGreatest) {
+        SetNumber(kGreatest);
+    }
+    if (text().size() == kMostDigits && cursorPosition() == kMostDigits) {
+        MoveOn();
+    }
+}
+
+int CAddressPart::GetNumber() const { return text().toInt(); }
 
 void CAddressPart::SetNumber(int number) { setText(QString::number(number)); }
 

@@ -8,7 +8,7 @@ namespace qt {
 
 /// One of the four numbers of an address field, 0 to 255; without text it counts as 0.
 ///
-/// While it is being typed a number may be too great; it is cut to 255 when the part is left.
+/// A greater number becomes 255 as soon as its third digit is typed.
 class CAddressPart final : public QLineEdit {
 public:
     /// `previous` is null for the first part; it leads on to this one.
@@ -28,6 +28,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    void TakeEdit();
     bool HandleKey(const QKeyEvent& event);
     bool MoveOn();
     bool MoveToStartOf(CAddressPart* part);

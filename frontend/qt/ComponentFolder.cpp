@@ -12,9 +12,9 @@ namespace qt {
 namespace {
 
 // The loader names the program itself as it was called, which says nothing of where it lies.
-std::filesystem::path FindComponentFile() {
+std::filesystem::path AskLoader() {
     Dl_info info{};
-    if (!dladdr(reinterpret_cast<const void*>(&FindComponentFolder), &info) || !info.dli_fname) {
+    if (!dladdr(reinterpret_cast<const void*>(&FindComponentFile), &info) || !info.dli_fname) {
         return {};
     }
     const bool isProgram = std::string_view(info.dli_fname) == program_invocation_name;
@@ -23,9 +23,13 @@ std::filesystem::path FindComponentFile() {
 
 }
 
-std::string FindComponentFolder() {
+std::string FindComponentFile() {
     std::error_code error;
-    return std::filesystem::canonical(FindComponentFile(), error).parent_path().string();
+    return std::filesystem::canonical(AskLoader(), error).string();
+}
+
+std::string FindComponentFolder() {
+    return std::filesystem::path(FindComponentFile()).parent_path().string();
 }
 
 }

@@ -4,8 +4,11 @@
 
 namespace qt {
 
-/// The folder of the library or program that contains this code, without a trailing separator;
-/// empty when the system does not tell.
+/// The library or program that contains this code, links followed; empty when the system does not
+/// tell.
+std::string FindComponentFile();
+
+/// Its folder, without a trailing separator; empty when the system does not tell.
 std::string FindComponentFolder();
 
 }

@@ -39,6 +39,42 @@ void FitField(QWidget& field, const QString& text) {
     field.setToolTip(fits ? QString() : Qt::convertFromPlainText(text));
 }
 
+// Without a buddy a label takes no "&" as the mark of a mnemonic.
+void SetLabelText(QLabel& label, const QString& text) {
+    label.setText(label.buddy() ? EscapeMnemonics(text) : text);
+}
+
+void SetFieldText(QLineEdit& field, const QString& text) {
+    field.setText(text);
+    field.setCursorPosition(0);
+}
+
+void SetText(QWidget& widget, ControlKind kind, const QString& text) {
+    switch (kind) {
+    case ControlKind::GroupBox:
+        static_cast<QGroupBox&>(widget).setTitle(EscapeMnemonics(text));
+        break;
+    case ControlKind::Label:
+    case ControlKind::CentredLabel:
+        SetLabelText(static_cast<QLabel&>(widget), text);
+        break;
+    case ControlKind::TextField:
+    case ControlKind::NumberField:
+        SetFieldText(static_cast<QLineEdit&>(widget), text);
+        break;
+    case ControlKind::EditField:
+        static_cast<CEditField&>(widget).ShowText(text);
+        break;
+    case ControlKind::CheckBox:
+    case ControlKind::Button:
+    case ControlKind::DefaultButton:
+        static_cast<QAbstractButton&>(widget).setText(EscapeMnemonics(text));
+        break;
+    default:
+        break;
+    }
+}
+
 }
 
 bool HasText(ControlKind kind) {
@@ -59,32 +95,7 @@ bool HasText(ControlKind kind) {
 }
 
 void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
-    switch (kind) {
-    case ControlKind::GroupBox:
-        static_cast<QGroupBox&>(widget).setTitle(EscapeMnemonics(text));
-        break;
-    case ControlKind::Label:
-    case ControlKind::CentredLabel: {
-        auto& label = static_cast<QLabel&>(widget);
-        label.setText(label.buddy() ? EscapeMnemonics(text) : text);
-        break;
-    }
-    case ControlKind::TextField:
-    case ControlKind::NumberField:
-        static_cast<QLineEdit&>(widget).setText(text);
-        static_cast<QLineEdit&>(widget).setCursorPosition(0);
-        break;
-    case ControlKind::EditField:
-        static_cast<CEditField&>(widget).ShowText(text);
-        break;
-    case ControlKind::CheckBox:
-    case ControlKind::Button:
-    case ControlKind::DefaultButton:
-        static_cast<QAbstractButton&>(widget).setText(EscapeMnemonics(text));
-        break;
-    default:
-        break;
-    }
+    SetText(widget, kind, text);
     FitText(widget, kind, text);
 }
 

@@ -8,11 +8,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QTreeView>
 
 namespace qt {
 
@@ -23,6 +25,19 @@ QLineEdit& NameFieldOf(const CFileDialog& dialog) {
 }
 
 QString ToFolder(const std::string& path) { return ToQt(path).replace(u'\\', u'/'); }
+
+// The nearest folder to a missing one that is there; the user's own where that is nothing but the
+// root, which helps nobody.
+QString FindStartFolder(const QString& wanted) {
+    QString folder = QDir::cleanPath(wanted);
+    while (!QFileInfo(folder).isDir()) {
+        folder = QFileInfo(folder).path();
+        if (QDir(folder).isRoot() || folder == QStringLiteral(".")) {
+            return QDir::homePath();
+        }
+    }
+    return folder;
+}
 
 }
 
@@ -46,21 +61,28 @@ void CFileDialog::SetUp() {
     }
     setNameFilters(ToNameFilters(m_dialog.filters));
     if (!m_dialog.startFolder.empty()) {
-        const QString folder = ToFolder(m_dialog.startFolder);
-        setDirectory(QFileInfo(folder).isDir() ? folder : QDir::currentPath());
+        setDirectory(FindStartFolder(ToFolder(m_dialog.startFolder)));
     }
     if (!m_dialog.fileName.empty()) {
         selectFile(ToQt(m_dialog.fileName));
     }
-    if (!isSave) {
-        connect(&NameFieldOf(*this), &QLineEdit::textChanged, this,
-                [this] { AllowCompletedName(); });
-    }
+    ShowCellsWhole();
+    connect(&NameFieldOf(*this), &QLineEdit::textChanged, this, [this] { AllowName(); });
+}
+
+// By themselves sizes and dates are cut in the middle.
+void CFileDialog::ShowCellsWhole() {
+    constexpr int kNameColumn = 0;
+    QHeaderView& header = *findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+    header.setSectionResizeMode(QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(kNameColumn, QHeaderView::Stretch);
 }
 
 void CFileDialog::AddOptions() {
     m_options =
         std::make_unique<CQtView>(*m_dialog.optionsTemplate, *this, *m_dialog.optionsHandler);
+    // The focus starts in the field for the name, which belongs to no view.
+    m_options->AnswerHelpForWindow();
     QWidget& options = *m_options->GetWidget();
     options.setFixedSize(options.size());
     auto& rows = static_cast<QGridLayout&>(*layout());
@@ -96,7 +118,7 @@ void CFileDialog::TakeName() {
     if (const QString completed = GetCompletedName(); !completed.isEmpty()) {
         ReplaceName(completed);
     }
-    if (HasFolder()) {
+    if (HasFolder() && HasRoomForPath()) {
         QFileDialog::accept();
     }
 }
@@ -106,12 +128,11 @@ void CFileDialog::done(int result) {
         QFileDialog::done(result);
         return;
     }
-    const panel::FileOutcome choice = TakeChoice();
+    std::string path = GetPath();
     const QPointer<CFileDialog> self(this);
-    const bool isRefused = choice.kind == panel::FileOutcome::Kind::Accepted &&
-                           m_dialog.optionsHandler && !m_dialog.optionsHandler->OnFileAccepted();
+    const bool isRefused = m_dialog.optionsHandler && !m_dialog.optionsHandler->OnFileAccepted();
     if (self && !isRefused) {
-        m_outcome = choice;
+        m_outcome = panel::FileOutcome::Accepted(std::move(path));
         QFileDialog::done(result);
     }
 }
@@ -130,10 +151,12 @@ QString CFileDialog::GetCompletedName() const {
     return isWanted && completed != typed ? completed : QString();
 }
 
-// The toolkit lets the button be pressed only for a name that exists as it is.
-void CFileDialog::AllowCompletedName() {
-    if (!GetCompletedName().isEmpty()) {
-        findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->setEnabled(true);
+// The toolkit lets the button be pressed only for a name that exists as it is, or that a new file
+// could have. One that is too long gets an answer rather than a grey button.
+void CFileDialog::AllowName() {
+    if (!GetCompletedName().isEmpty() || !Fits(GetPath())) {
+        const auto which = m_kind == Kind::Save ? QDialogButtonBox::Save : QDialogButtonBox::Open;
+        findChild<QDialogButtonBox*>()->button(which)->setEnabled(true);
     }
 }
 
@@ -152,20 +175,40 @@ bool CFileDialog::HasFolder() {
     if (file.isDir() || file.dir().exists()) {
         return true;
     }
-    const QPointer<QMessageBox> box(
-        new QMessageBox(QMessageBox::Warning, windowTitle(), {}, QMessageBox::Ok, this));
-    box->setTextFormat(Qt::PlainText);
-    box->setText(QStringLiteral("%1\nThe folder was not found.").arg(file.path()));
-    box->exec();
-    delete box;
+    SayWhyNot(file.path(), QStringLiteral("The folder was not found."));
     return false;
 }
 
-panel::FileOutcome CFileDialog::TakeChoice() const {
-    std::string path = FromQt(QDir::cleanPath(selectedFiles().value(0)));
-    return path.size() < m_dialog.pathCapacity
-               ? panel::FileOutcome::Accepted(std::move(path))
-               : panel::FileOutcome::Failed(panel::kFilePathTooLong);
+// An end with an error would be passed over in silence by most commands, as if nothing had been
+// chosen.
+bool CFileDialog::HasRoomForPath() {
+    const std::string path = GetPath();
+    if (Fits(path)) {
+        return true;
+    }
+    SayWhyNot(ToQt(path), QStringLiteral("The path is too long. Choose a shorter name, or a folder "
+                                         "with a shorter path."));
+    return false;
+}
+
+// A folder is entered, not delivered.
+bool CFileDialog::Fits(const std::string& path) const {
+    return path.size() < m_dialog.pathCapacity || QFileInfo(ToQt(path)).isDir();
+}
+
+// A long path has no blank at which the box could break it.
+void CFileDialog::SayWhyNot(const QString& path, const QString& reason) {
+    const QString shown = fontMetrics().elidedText(path, Qt::ElideMiddle, width());
+    const QPointer<QMessageBox> box(
+        new QMessageBox(QMessageBox::Warning, windowTitle(), {}, QMessageBox::Ok, this));
+    box->setTextFormat(Qt::PlainText);
+    box->setText(shown + u'\n' + reason);
+    box->exec();
+    delete box;
+}
+
+std::string CFileDialog::GetPath() const {
+    return FromQt(QDir::cleanPath(selectedFiles().value(0)));
 }
 
 panel::FileOutcome RunFileDialog(const panel::FileDialog& dialog, CFileDialog::Kind kind,

@@ -9,7 +9,10 @@
 
 namespace qt {
 
-/// The toolkit's own open or save dialog, named "file-dialog".
+/// The toolkit's own open or save dialog, named "file-dialog". It stays open, and says why in a box
+/// of its own, for a path that does not fit the dialog's capacity and for a file in a folder that
+/// is missing. A start folder that is missing gives the nearest one above it that exists, or the
+/// user's home folder when there is none but the root.
 class CFileDialog final : public QFileDialog {
 public:
     enum class Kind { Open, Save };
@@ -27,14 +30,19 @@ public:
 
 private:
     void SetUp();
+    void ShowCellsWhole();
     void AddOptions();
     void TakeName();
     /// What the user's name means by the default extension; empty when that changes nothing.
     QString GetCompletedName() const;
-    void AllowCompletedName();
+    void AllowName();
     void ReplaceName(const QString& name);
     bool HasFolder();
-    panel::FileOutcome TakeChoice() const;
+    bool HasRoomForPath();
+    bool Fits(const std::string& path) const;
+    void SayWhyNot(const QString& path, const QString& reason);
+    /// What is chosen, in full.
+    std::string GetPath() const;
 
     panel::FileDialog m_dialog;
     Kind m_kind;

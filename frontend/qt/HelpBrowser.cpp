@@ -2,7 +2,11 @@
 
 #include "frontend/qt/Text.h"
 
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QTextFrame>
+#include <QTextList>
 #include <QTextTable>
 #include <QUrl>
 #include <QVariant>
@@ -16,6 +20,7 @@ namespace {
 constexpr QLatin1String kScheme("topic");
 constexpr int kPageMargin = 8; // pixels
 constexpr int kCellPadding = 3;
+constexpr int kParagraphGap = 6;
 
 QUrl UrlOf(std::uint32_t number) { return QUrl(QStringLiteral("topic:%1").arg(number)); }
 
@@ -34,15 +39,44 @@ void SetApart(QTextDocument& page) {
     }
 }
 
+// Nor does Markdown leave any between paragraphs; the items of a list stay together.
+void SetParagraphsApart(QTextDocument& page) {
+    for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+        QTextCursor cursor(block);
+        const bool isItem = block.textList() && block.next().textList() == block.textList();
+        if (!cursor.currentTable() && !isItem) {
+            QTextBlockFormat format = block.blockFormat();
+            format.setBottomMargin(kParagraphGap);
+            cursor.setBlockFormat(format);
+        }
+    }
+}
+
 QString PageOf(const help::HelpTopic& topic) {
     return QStringLiteral("# %1\n\n%2").arg(ToQt(topic.title), ToQt(topic.text));
+}
+
+// Any punctuation of ASCII may be escaped, whether it means something or not.
+QString EscapeMarkdown(QString text) {
+    static const QRegularExpression punctuation(QStringLiteral(R"(([!-/:-@[-`{-~]))"));
+    return text.replace(punctuation, QStringLiteral(R"(\\1)"));
 }
 
 }
 
 void CHelpBrowser::ShowTopic(std::vector<help::HelpTopic> topics, std::uint32_t number) {
     m_topics = std::move(topics);
-    const QUrl url = UrlOf(number);
+    m_fault.clear();
+    ShowPage(UrlOf(number));
+}
+
+void CHelpBrowser::ShowFault(const QString& text, std::uint32_t number) {
+    m_topics.clear();
+    m_fault = EscapeMarkdown(text);
+    ShowPage(UrlOf(number));
+}
+
+void CHelpBrowser::ShowPage(const QUrl& url) {
     // A source that is set already would not be asked for again, though the file may have changed.
     if (source() == url) {
         reload();
@@ -51,12 +85,10 @@ void CHelpBrowser::ShowTopic(std::vector<help::HelpTopic> topics, std::uint32_t 
     }
 }
 
-void CHelpBrowser::ShowFault(const QString& text) {
-    m_topics.clear();
-    setPlainText(text);
-}
-
 QVariant CHelpBrowser::loadResource(int, const QUrl& name) {
+    if (!m_fault.isEmpty()) {
+        return m_fault;
+    }
     const std::uint32_t number = name.path().toUInt();
     if (const help::HelpTopic* const topic = help::FindTopic(m_topics, number)) {
         return PageOf(*topic);
@@ -68,6 +100,7 @@ void CHelpBrowser::doSetSource(const QUrl& url, QTextDocument::ResourceType) {
     if (url.scheme() == kScheme) {
         QTextBrowser::doSetSource(url, QTextDocument::MarkdownResource);
         SetApart(*document());
+        SetParagraphsApart(*document());
     }
 }
 

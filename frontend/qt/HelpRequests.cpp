@@ -58,6 +58,9 @@ bool CHelpRequests::eventFilter(QObject* watched, QEvent* event) {
 // A window none of whose controls has the focus gets the key itself.
 bool CHelpRequests::ConcernsView(const QWidget& receiver) const {
     const QWidget* const window = m_view.window();
+    if (m_isForWindow && receiver.window() == window) {
+        return true;
+    }
     return &receiver == &m_view || m_view.isAncestorOf(&receiver) ||
            (&receiver == window && !window->focusWidget());
 }

@@ -23,6 +23,9 @@ class CHelpRequests final : public QObject {
 public:
     CHelpRequests(QWidget& view, std::shared_ptr<const CHandlerLink> link);
 
+    /// From now on answers for all of the window that the view is a part of.
+    void AnswerForWindow() { m_isForWindow = true; }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -30,6 +33,7 @@ private:
 
     QWidget& m_view;
     std::shared_ptr<const CHandlerLink> m_link;
+    bool m_isForWindow = false;
 };
 
 }

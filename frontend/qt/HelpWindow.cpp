@@ -4,6 +4,7 @@
 #include "frontend/qt/HelpBrowser.h"
 #include "frontend/qt/Text.h"
 
+#include <QEvent>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -71,20 +72,52 @@ QWidget* CHelpWindow::MakeWays() {
 }
 
 void CHelpWindow::ShowTopic(const std::string& file, std::uint32_t context, QWidget* owner) {
-    if (parentWidget() != owner) {
-        setParent(owner, windowFlags());
-    }
+    BelongTo(owner);
     setProperty("helpTopic", context);
     const QString path = ToQt(file);
     if (const std::optional<QByteArray> text = ReadHelp(path)) {
         m_browser->ShowTopic(help::ParseHelp(text->toStdString()), context);
     } else {
         m_browser->ShowFault(
-            QStringLiteral("The help file was not found. It was looked for here:\n\n") + path);
+            QStringLiteral("The help file was not found. It was looked for here:\n\n") + path,
+            context);
     }
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
     show();
     raise();
     activateWindow();
+}
+
+void CHelpWindow::BelongTo(QWidget* owner) {
+    if (parentWidget() == owner) {
+        return;
+    }
+    if (parentWidget()) {
+        parentWidget()->removeEventFilter(this);
+    }
+    const QRect place = geometry();
+    setParent(owner, windowFlags());
+    setGeometry(place);
+    if (owner && owner->isModal()) {
+        owner->installEventFilter(this);
+    }
+}
+
+bool CHelpWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Hide && !event->spontaneous()) {
+        Outlive(*parentWidget());
+    }
+    return false;
+}
+
+// The dialog's owner is where the user goes on, so the focus stays there.
+void CHelpWindow::Outlive(const QWidget& dialog) {
+    const bool wasShown = isVisible();
+    BelongTo(dialog.parentWidget());
+    if (wasShown) {
+        setAttribute(Qt::WA_ShowWithoutActivating);
+        show();
+    }
 }
 
 }

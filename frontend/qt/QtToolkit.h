@@ -15,7 +15,7 @@ namespace qt {
 class CHelpWindow;
 
 /// The toolkit made of Qt widgets. Needs a QApplication that outlives it.
-class CQtToolkit final : public panel::IToolkit {
+class CQtToolkit : public panel::IToolkit {
 public:
     CQtToolkit() = default;
     ~CQtToolkit() override;

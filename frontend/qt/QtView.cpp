@@ -43,7 +43,7 @@ CQtView::CQtView(const panel::DialogTemplate& dialogTemplate, QWidget& parent,
     m_widget->setObjectName(QStringLiteral("view-%1").arg(dialogTemplate.id));
     Build(dialogTemplate);
     m_focus = new CFocusMemory(*m_widget);
-    new CHelpRequests(*m_widget, m_link);
+    m_help = new CHelpRequests(*m_widget, m_link);
     m_widget->SetResizeListener([this] { ReportSize(); });
 }
 
@@ -77,6 +77,8 @@ CQtView::~CQtView() {
 }
 
 QWidget* CQtView::GetWidget() const { return m_widget; }
+
+void CQtView::AnswerHelpForWindow() { m_help->AnswerForWindow(); }
 
 void CQtView::SendCommand(ControlId id) {
     const std::shared_ptr<const CHandlerLink> link = m_link;

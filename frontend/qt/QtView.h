@@ -21,6 +21,7 @@ namespace qt {
 
 class CFocusMemory;
 class CHandlerLink;
+class CHelpRequests;
 class CListView;
 class CLogView;
 class CViewWidget;
@@ -40,6 +41,9 @@ public:
 
     /// Null once the parent has ended.
     QWidget* GetWidget() const;
+    /// Brings the handler the help requests of all of the widget's window, for a view that only
+    /// adds to a window. Before the parent ends.
+    void AnswerHelpForWindow();
     /// Tells the handler of a button press.
     void SendCommand(panel::ControlId id);
 
@@ -126,6 +130,7 @@ private:
     std::function<void(int)> m_endDialog;
     std::unordered_map<panel::ControlId, Control> m_controls;
     CFocusMemory* m_focus = nullptr; // a child of the widget
+    CHelpRequests* m_help = nullptr; // another
     panel::Size m_reportedSize;
 };
 

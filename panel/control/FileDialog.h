@@ -24,7 +24,7 @@ struct FileFilter {
 /// part ends the text.
 std::vector<FileFilter> SplitFilter(std::string_view text);
 
-/// What the controls of our own in an open dialog tell their owner.
+/// What the controls of our own in an open dialog tell their owner; OnHelp is for all of it.
 class IFileDialogHandler : public IDialogHandler {
 public:
     /// The user has chosen a file. False refuses it, and the dialog stays open.
@@ -37,11 +37,16 @@ struct FileDialog {
     Owner owner = Owner::Panel;
     std::string title = {}; ///< empty: the system's own
     std::vector<FileFilter> filters = {};
-    std::string fileName = {};    ///< proposed
-    std::string startFolder = {}; ///< empty: the system's own choice
+    std::string fileName = {}; ///< proposed
+    /// Empty: the system's own choice. One that is missing: the system's, too, as near to it as may
+    /// be.
+    std::string startFolder = {};
     std::string defaultExtension =
         {}; ///< appended to a name typed without one; three characters count
-    std::size_t pathCapacity = 260; ///< bytes that the chosen path may take, terminator included
+    /// Bytes that the chosen path may take, terminator included. For a longer one the dialog stays
+    /// open and says so where the front end draws it itself, and ends with kFilePathTooLong where
+    /// the system does that.
+    std::size_t pathCapacity = 260;
     /// Controls of our own below the list of files; null for none. The dialog can then be resized.
     const DialogTemplate* optionsTemplate = nullptr;
     IFileDialogHandler* optionsHandler = nullptr;

@@ -11,6 +11,7 @@ namespace panel {
 /// Topics of the help (help/) that belong to no single control. A control's own has the number of
 /// its id; the buttons that several dialogs share have their dialog's.
 inline constexpr std::uint32_t kOverviewTopic = 1;
+inline constexpr std::uint32_t kPhoneFileUploadTopic = 1116;
 inline constexpr std::uint32_t kSelfTestTopic = 1201;
 inline constexpr std::uint32_t kNetworkTopic = 1203;
 

@@ -15,7 +15,8 @@ struct NetworkValues {
     contract::AddressValue subnetMask = 0;
     contract::AddressValue gateway = 0;
     bool useDhcp = true;
-    std::string description; ///< at most 110 bytes of UTF-8
+    /// At most 110 bytes of UTF-8 as read, at most 110 characters as the dialog takes it.
+    std::string description;
 };
 
 /// What the panel knows of itself and its device, shared by its rooms.

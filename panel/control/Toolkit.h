@@ -66,10 +66,12 @@ public:
     /// none), when none can be had.
     virtual std::unique_ptr<IPopupMenu> CreatePopupMenu(int& error) = 0;
 
-    /// Lets the user choose a file that exists.
+    /// Lets the user choose a file. A system's dialog takes only one that exists; it may have gone
+    /// by the time it is used, and a front end without a screen takes every name. So whoever uses
+    /// the file finds out.
     virtual FileOutcome OpenFile(const FileDialog& dialog) = 0;
-    /// Lets the user name a file in a folder that exists. One that is there already is taken
-    /// without a question.
+    /// Lets the user name a file, in a folder that exists as far as OpenFile's file does. A file
+    /// that is there already is taken without a question.
     virtual FileOutcome SaveFile(const FileDialog& dialog) = 0;
     /// What stands between the folders of the paths that the file dialogs deliver.
     virtual char GetPathSeparator() const = 0;

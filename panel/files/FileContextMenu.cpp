@@ -33,6 +33,10 @@ Status FromSystemError(int error) {
                : Status::FromBits(0x80070000u | (static_cast<std::uint32_t>(error) & 0xFFFF));
 }
 
+bool ConcernsSelection(FileContextMenuCommand command) {
+    return command >= Delete && command <= MoveToExternalStorage;
+}
+
 bool IsInside(Point point, Size area) {
     return point.x >= 0 && point.y >= 0 && point.x < area.width && point.y < area.height;
 }
@@ -40,33 +44,38 @@ bool IsInside(Point point, Size area) {
 }
 
 void CFileContextMenu::DisplayAndHandleFileContextMenu(bool fromKeyboard, Point mouse) {
-    const std::string caption = LoadPanelString(StringId::PrommerMaintenance);
     if (!m_services.device.Control()) {
-        m_services.output.ShowFatalError(caption);
+        m_services.output.ShowFatalError(LoadPanelString(StringId::PrommerMaintenance));
         return;
     }
     const CPanelView& view = m_services.view;
+    const std::uint64_t listed = m_files.FillNumber();
     const SelectionSummary selection =
         SummarizeSelection(SelectedKeys(view), view->GetRowCount(view[kFileList]));
+    const auto command = AskForCommand(selection, fromKeyboard, mouse);
+    // Other files may be listed by now than those that the user has chosen this for.
+    if (command && (m_files.FillNumber() == listed || !ConcernsSelection(*command))) {
+        Run(*command, selection);
+    }
+}
+
+std::optional<FileContextMenuCommand>
+CFileContextMenu::AskForCommand(const SelectionSummary& selection, bool fromKeyboard, Point mouse) {
     int error = 0;
-    auto menu = m_services.toolkit.CreatePopupMenu(error);
+    const auto menu = m_services.toolkit.CreatePopupMenu(error);
     if (!menu) {
-        m_services.output.ShowMessage("Popup menu creation failed", caption, FromSystemError(error),
-                                      "", kErrorStyle);
-        return;
+        m_services.output.ShowMessage("Popup menu creation failed",
+                                      LoadPanelString(StringId::PrommerMaintenance),
+                                      FromSystemError(error), "", kErrorStyle);
+        return std::nullopt;
     }
     const PanelState& state = m_services.state;
     const bool hasExternalStorage =
         DependsOnExternalStorage(state.deviceType, selection) && HasExternalStorage();
     const auto items =
         FileMenu({state.deviceType, state.deviceMode, selection, hasExternalStorage});
-    const std::uint64_t shown = m_files.FillNumber();
-    const int chosen = menu->Show(items, fromKeyboard ? KeyboardPosition() : mouse);
-    menu.reset();
-    // A choice made from a menu for other files, or for another device, is void.
-    if (m_files.FillNumber() == shown) {
-        Run(static_cast<FileContextMenuCommand>(chosen), selection);
-    }
+    return static_cast<FileContextMenuCommand>(
+        menu->Show(items, fromKeyboard ? KeyboardPosition() : mouse));
 }
 
 bool CFileContextMenu::HasExternalStorage() const {

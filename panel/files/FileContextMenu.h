@@ -8,6 +8,8 @@
 #include "panel/files/MenuContents.h"
 #include "panel/files/PhoneFileUpload.h"
 
+#include <optional>
+
 namespace panel {
 
 class CDeviceControls;
@@ -35,6 +37,9 @@ public:
     void DisplayAndHandleFileContextMenu(bool fromKeyboard, Point mouse = {});
 
 private:
+    /// Nothing when no menu could be made, which is reported.
+    std::optional<FileContextMenuCommand> AskForCommand(const SelectionSummary& selection,
+                                                        bool fromKeyboard, Point mouse);
     bool HasExternalStorage() const;
     Point KeyboardPosition() const;
     void Run(FileContextMenuCommand command, const SelectionSummary& selection);

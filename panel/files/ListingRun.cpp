@@ -83,6 +83,14 @@ bool CListingRun::ListFile(const std::shared_ptr<contract::IFileListing>& listin
 }
 
 bool CListingRun::FillRow(int row, File& file) {
+    if (!FillCells(row, file)) {
+        return false;
+    }
+    m_view->SetRowKey(m_list, row, MakeFileRowKey(file.type, file.location, file.id));
+    return true;
+}
+
+bool CListingRun::FillCells(int row, File& file) {
     const auto show = [&](FileColumn column, const char* failureText, auto read, auto& value,
                           auto toText) {
         if (!MayGoOn(m_calls.Call(file.info, read, value), failureText)) {
@@ -92,23 +100,19 @@ bool CListingRun::FillRow(int row, File& file) {
         return true;
     };
     CellBuffer buffer;
-    const bool isFilled =
-        show(FileColumn::Type, "Cannot get type of the file", &IFileInfo::GetType, file.type,
-             [&] { return FileTypeText(file.type); }) &&
-        show(FileColumn::Id, "Cannot get ID of the file", &IFileInfo::GetId, file.id,
-             [&] { return NumberText(file.id, buffer); }) &&
-        show(FileColumn::Version, "Cannot get version of the file", &IFileInfo::GetVersion,
-             file.version, [&] { return TakeVersion(file); }) &&
-        show(FileColumn::Size, "Cannot get size of the file", &IFileInfo::GetSize, file.sizeBytes,
-             [&] { return NumberText(file.sizeBytes, buffer); }) &&
-        show(FileColumn::Location, "Cannot get file location", &IFileInfo::GetLocation,
-             file.location, [&] { return FileLocationText(file.location, buffer); }) &&
-        show(FileColumn::Generation, "Cannot get generation of the file", &IFileInfo::GetGeneration,
-             file.generation, [&] { return FileGenerationText(file.generation, buffer); });
-    if (isFilled) {
-        m_view->SetRowKey(m_list, row, MakeFileRowKey(file.type, file.location, file.id));
-    }
-    return isFilled;
+    return show(FileColumn::Type, "Cannot get type of the file", &IFileInfo::GetType, file.type,
+                [&] { return FileTypeText(file.type); }) &&
+           show(FileColumn::Id, "Cannot get ID of the file", &IFileInfo::GetId, file.id,
+                [&] { return NumberText(file.id, buffer); }) &&
+           show(FileColumn::Version, "Cannot get version of the file", &IFileInfo::GetVersion,
+                file.version, [&] { return TakeVersion(file); }) &&
+           show(FileColumn::Size, "Cannot get size of the file", &IFileInfo::GetSize,
+                file.sizeBytes, [&] { return NumberText(file.sizeBytes, buffer); }) &&
+           show(FileColumn::Location, "Cannot get file location", &IFileInfo::GetLocation,
+                file.location, [&] { return FileLocationText(file.location, buffer); }) &&
+           show(FileColumn::Generation, "Cannot get generation of the file",
+                &IFileInfo::GetGeneration, file.generation,
+                [&] { return FileGenerationText(file.generation, buffer); });
 }
 
 std::string_view CListingRun::TakeVersion(const File& file) {

@@ -48,6 +48,7 @@ private:
 
     bool ListFile(const std::shared_ptr<contract::IFileListing>& listing, std::int32_t index);
     bool FillRow(int row, File& file);
+    bool FillCells(int row, File& file);
     std::string_view TakeVersion(const File& file);
     bool MayGoOn(contract::Status status, const char* failureText) {
         return status.IsFailure() ? ReportFailure(status, failureText) : m_latestFill == m_thisFill;

@@ -2,6 +2,7 @@
 
 #include "panel/control/Format.h"
 #include "panel/control/Help.h"
+#include "panel/control/HelpTopics.h"
 #include "panel/control/OutputArea.h"
 #include "panel/control/StringTable.h"
 #include "panel/control/Trace.h"
@@ -79,7 +80,9 @@ void CPhoneFileUploadDialog::Fill(IView& view, const Option& option) const {
     }
 }
 
-void CPhoneFileUploadDialog::OnHelp(std::uint32_t context) { m_help.ShowHelp(context); }
+void CPhoneFileUploadDialog::OnHelp(std::uint32_t context) {
+    m_help.ShowHelp(context != 0 ? context : kPhoneFileUploadTopic);
+}
 
 bool CPhoneFileUploadDialog::OnFileAccepted() {
     return std::ranges::all_of(kOptions, [this](const Option& option) { return Take(option); });

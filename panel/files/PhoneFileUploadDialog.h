@@ -35,6 +35,7 @@ public:
 
     void OnInit(IView& view) override;
     void OnCommand(ControlId) override {}
+    /// Opens the dialog's own topic for a control that has none.
     void OnHelp(std::uint32_t context) override;
     /// Refuses while no method or no destination is chosen, which is shown and gets the focus. What
     /// was chosen before the refusal is kept.

@@ -36,7 +36,7 @@ constexpr Line kLines[] = {
 };
 
 std::string ShortOrNothing(const std::string& text) {
-    return text.size() <= kLongestTime ? text : std::string();
+    return CutToUtf16Units(text, kLongestTime) == text ? text : std::string();
 }
 
 std::string SizeLine(const char* label, std::uint32_t sizeBytes) {

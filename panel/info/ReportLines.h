@@ -39,7 +39,8 @@ struct ReportKind {
 ReportKind ReportKindOf(DeviceType type);
 
 /// The whole text of a report, lines ended by CR LF. Versions that a device does not have take no
-/// line. `header` is cut to 79 bytes; a date or time of more than 19 bytes is left out.
+/// line. `header` is cut to 79 bytes; a date or time of more than 19 units of UTF-16 is left
+/// out.
 std::string ReportText(const MaintenanceReportRecord& record, std::string_view header,
                        const LocalTime& now);
 

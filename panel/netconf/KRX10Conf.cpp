@@ -66,7 +66,7 @@ void CKRX10Conf::TakeChoice() {
         values.*control.value =
             values.useDhcp ? control.byDhcp : ToDeviceAddress(m_view->GetAddress(control.field));
     }
-    values.description = CutToBytes(m_view->GetText(kDescriptionEdit), kLongestDescription);
+    values.description = CutToUtf16Units(m_view->GetText(kDescriptionEdit), kLongestDescription);
 }
 
 }

@@ -117,31 +117,21 @@ bool CNetworkConfiguration::ObtainConfiguration(const Control& control,
 }
 
 Status CNetworkConfiguration::ReadValues(const Configuration& configuration) {
+    using Config = IKrx10CommunicationConfiguration2;
     NetworkValues& kept = m_services.state.network;
+    Status status = contract::kSuccess;
     const auto read = [&](auto operation, auto& value) {
         auto fresh = value;
-        const Status status = Call(configuration, operation, fresh);
+        status = Call(configuration, operation, fresh);
         if (status.IsSuccess()) {
             value = fresh;
         }
-        return status;
+        return status.IsSuccess();
     };
-    using Config = IKrx10CommunicationConfiguration2;
     std::string text;
-    Status status = read(&Config::GetIpAddressValue, kept.ipAddress);
-    if (status.IsSuccess()) {
-        status = read(&Config::GetSubnetMask, kept.subnetMask);
-    }
-    if (status.IsSuccess()) {
-        status = read(&Config::GetGateway, kept.gateway);
-    }
-    if (status.IsSuccess()) {
-        status = read(&Config::GetUseDhcp, kept.useDhcp);
-    }
-    if (status.IsSuccess()) {
-        status = read(&Config::GetIpAddress, text);
-    }
-    if (status.IsSuccess()) {
+    if (read(&Config::GetIpAddressValue, kept.ipAddress) &&
+        read(&Config::GetSubnetMask, kept.subnetMask) && read(&Config::GetGateway, kept.gateway) &&
+        read(&Config::GetUseDhcp, kept.useDhcp) && read(&Config::GetIpAddress, text)) {
         CPanelView& view = m_services.view;
         view->SetText(view[kIpAddressField], text.empty() ? kNoAddress : text);
     }

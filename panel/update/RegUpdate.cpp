@@ -16,7 +16,7 @@ constexpr std::size_t kLongestValue = 260;
 constexpr std::size_t kLongestFilter = 260;
 constexpr std::size_t kLongestFolder = 260;
 constexpr std::size_t kChosenPathRoom = 261;
-/// A package folder as long as this leaves no room for the names of the files in it.
+/// No dialog for a package folder as long as this: the limit that this dialog has always had.
 constexpr std::size_t kPackageFolderLimit = 233;
 constexpr const char* kDescriptionsFolder = "\\Flash";
 

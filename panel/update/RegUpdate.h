@@ -39,8 +39,9 @@ public:
     void SetRegValue(const std::string& name, std::uint32_t number);
 
     /// Lets the user choose a file that exists and returns its full path; nothing when the user
-    /// cancels, when the dialog fails, for an empty filter, and for a package folder of 233 bytes
-    /// or more, to whose files no path would fit. `filter` is as for SplitFilter.
+    /// cancels, when the dialog fails, and, without a dialog, for an empty filter and for a start
+    /// in a package folder whose path has 233 to 259 bytes. A longer one reads as empty, and the
+    /// dialog opens as for none. `filter` is as for SplitFilter.
     std::optional<std::string> BrowseForOpenFile(std::string_view filter,
                                                  const std::string& defaultExtension,
                                                  bool startInPackageFolder);

@@ -122,8 +122,34 @@ Outcome ExpectContent(const CSourceFile& source, const Header& header, CodeKind 
     return std::nullopt;
 }
 
+/// Versions of code that a device shows are numbers; other words would be shown as if they were.
+Outcome ExpectVersions(const CSourceFile& source, const Header& header, CodeKind kind) {
+    const bool isImage = kind == CodeKind::Image;
+    for (const auto* key : {"version", "fpga", "boot"}) {
+        const auto text = TextOf(header, key);
+        const bool isMeant = isImage || key == std::string_view("version");
+        if (isMeant && !text.empty() && !IsVersion(text)) {
+            return Failure{kInvalidData, source.QuotedName() + " gives " + QuoteForMessage(text) +
+                                             " as " + QuoteForMessage(key) +
+                                             ", which is no version such as 1.21"};
+        }
+    }
+    return std::nullopt;
+}
+
+/// Code is kept in the flash memory's own part, so that what files leave free does not matter.
+Outcome ExpectSize(const CSourceFile& source, const DeviceDescription& device) {
+    const std::int64_t sizeBytes = source.SizeBytes();
+    if (sizeBytes <= device.totalFlashBytes) {
+        return std::nullopt;
+    }
+    return Failure{kMemoryFull, source.QuotedName() + " has " + std::to_string(sizeBytes) +
+                                    " bytes, and the whole flash memory " +
+                                    std::to_string(device.totalFlashBytes)};
+}
+
 std::string VersionOf(const CSourceFile& source, const Header& header) {
-    if (auto version = TextOf(header, "version"); IsVersion(version)) {
+    if (auto version = TextOf(header, "version"); !version.empty()) {
         return version;
     }
     const auto stem = std::filesystem::path(source.Name()).stem().string();
@@ -134,11 +160,12 @@ std::string VersionOf(const CSourceFile& source, const Header& header) {
 }
 
 std::variant<CodeVersions, Failure> RecogniseCode(const CSourceFile& source, CodeKind kind,
-                                                  std::int32_t deviceType) {
+                                                  const DeviceDescription& device) {
     const auto header = ReadHeader(source.Head());
     for (const auto& failure :
-         {ExpectKind(kind, deviceType), ExpectModel(source, header, kind, deviceType),
-          ExpectContent(source, header, kind)}) {
+         {ExpectKind(kind, device.type), ExpectModel(source, header, kind, device.type),
+          ExpectContent(source, header, kind), ExpectVersions(source, header, kind),
+          ExpectSize(source, device)}) {
         if (failure) {
             return *failure;
         }
@@ -157,6 +184,7 @@ void InstallCode(DeviceDescription& device, const CodeVersions& versions) {
     using contract::SelfTest;
     if (!versions.application.empty()) {
         device.software.application = versions.application;
+        device.mode = kNormalMode;
         PassIfPresent(device, SelfTest::ApplicationSw);
     }
     if (!versions.fpga.empty()) {

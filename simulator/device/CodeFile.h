@@ -21,11 +21,13 @@ struct CodeVersions {
 };
 
 /// What a code file is, by its header and its name, as docs/device-folder.md says ("Code and
-/// images"), or why it is not for this device.
+/// images"), or why it is not for this device. A file that is larger than the
+/// device's flash memory is for none.
 std::variant<CodeVersions, Failure> RecogniseCode(const CSourceFile& source, CodeKind kind,
-                                                  std::int32_t deviceType);
+                                                  const DeviceDescription& device);
 
-/// Puts the versions into the device; the self-tests of what was loaded pass.
+/// Puts the versions into the device; the self-tests of what was loaded pass. Application software
+/// is what a device in Service mode waits for: it starts in Normal mode from then on.
 void InstallCode(DeviceDescription& device, const CodeVersions& versions);
 
 }

@@ -1,5 +1,6 @@
 #include "simulator/device/CodeOperations.h"
 
+#include "simulator/device/StartMode.h"
 #include "simulator/folder/MessageText.h"
 
 #include <utility>
@@ -31,30 +32,23 @@ Outcome ExpectWay(std::int32_t codeKind, std::int32_t reserved, std::int32_t mod
                                          std::to_string(mode)};
 }
 
-/// The device's mode at its next start, whatever it was: it has good software now.
-Outcome StartInNormalMode(CDevice& device) {
-    auto next = device.State();
-    next.mode = kNormalMode;
-    return device.Change(std::move(next));
-}
-
 }
 
 Outcome LoadCode(CDevice& device, const CSourceFile& source, CodeKind kind,
                  const std::string& verb) {
-    auto recognised = RecogniseCode(source, kind, device.Description().type);
+    auto recognised = RecogniseCode(source, kind, device.Description());
     if (auto* failure = std::get_if<Failure>(&recognised)) {
         return std::move(*failure);
     }
-    std::string bytes;
     const auto text = verb + " " + EscapeForMessage(source.Name());
     auto failure =
-        source.Read(bytes, [&](auto done, auto total) { device.RaiseMessage(text, done, total); });
+        source.ReadThrough([&](auto done, auto total) { device.RaiseMessage(text, done, total); });
     if (failure) {
         return failure;
     }
     auto next = device.State();
     InstallCode(next, std::get<CodeVersions>(recognised));
+    next.mode = ModeAfterStart(next);
     return device.Change(std::move(next));
 }
 
@@ -69,13 +63,12 @@ Outcome UploadCode(CDevice& device, const std::string& path, std::int32_t codeKi
     }
     const auto& source = std::get<CSourceFile>(opened);
     const auto kind = static_cast<CodeKind>(codeKind);
-    auto recognised = RecogniseCode(source, kind, device.Description().type);
+    auto recognised = RecogniseCode(source, kind, device.Description());
     if (auto* failure = std::get_if<Failure>(&recognised)) {
         return std::move(*failure);
     }
     const CMaintenance maintenance(device);
-    auto failure = LoadCode(device, source, kind, "Loading");
-    return failure ? failure : StartInNormalMode(device);
+    return LoadCode(device, source, kind, "Loading");
 }
 
 }

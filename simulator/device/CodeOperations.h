@@ -9,7 +9,7 @@
 namespace simulator {
 
 /// Takes a device through Maintenance mode: entered at once, left at the end of the scope for the
-/// mode in which the device starts then.
+/// mode that is stored by then.
 class CMaintenance {
 public:
     explicit CMaintenance(CDevice& device) : m_device(device) {
@@ -24,12 +24,13 @@ private:
 };
 
 /// Loads the file's code, with messages that begin with `verb` and tell the progress in bytes. The
-/// code itself is not kept: the versions are what a device shows of it.
+/// code itself is not kept: the versions are what a device shows of it. The mode that is stored
+/// with them is that of the start that follows.
 Outcome LoadCode(CDevice& device, const CSourceFile& source, CodeKind kind,
                  const std::string& verb);
 
-/// UploadCode of the service. The device is in Maintenance mode meanwhile, and in Normal mode when
-/// the code is loaded.
+/// UploadCode of the service. The device is in Maintenance mode meanwhile, and starts when the code
+/// is loaded. After a failure it is as it was.
 Outcome UploadCode(CDevice& device, const std::string& path, std::int32_t codeKind,
                    std::int32_t reserved, std::int32_t mode);
 

@@ -29,10 +29,16 @@ Outcome ExpectRange(std::int32_t value, const std::string& what) {
     return Failure{kInvalidArgument, "There is no " + what + " " + std::to_string(value)};
 }
 
+Outcome EndAsUpToDate(CDevice& device, const CSourceFile& source, UploadResult& result) {
+    device.RaiseMessage(EscapeForMessage(source.Name()) + " is up to date", 0, 0);
+    result = UploadResult::UpToDate;
+    return std::nullopt;
+}
+
 /// Reads the file's bytes, with messages, and stores them as the device then stands: who hears the
-/// messages may change it.
+/// messages may change it, and may even store the file.
 Outcome Transfer(CDevice& device, const CSourceFile& source, Destination destination,
-                 UploadMethod method, const std::string& verb) {
+                 UploadMethod method, const std::string& verb, UploadResult& result) {
     const auto text = verb + " " + EscapeForMessage(source.Name());
     NewContent content;
     auto failure = source.Read(
@@ -45,8 +51,15 @@ Outcome Transfer(CDevice& device, const CSourceFile& source, Destination destina
         return std::move(*refusal);
     }
     auto& store = std::get<StorePlan>(plan);
+    if (store.isUpToDate) {
+        return EndAsUpToDate(device, source, result);
+    }
     content.file = store.file;
-    return device.Change(std::move(store.next), &content);
+    failure = device.Change(std::move(store.next), &content);
+    if (!failure) {
+        result = UploadResult::Stored;
+    }
+    return failure;
 }
 
 }
@@ -54,21 +67,14 @@ Outcome Transfer(CDevice& device, const CSourceFile& source, Destination destina
 Outcome StorePhoneFile(CDevice& device, const CSourceFile& source, Destination destination,
                        UploadMethod method, const std::string& verb, UploadResult& result) {
     // Before the first byte: a file that has no place is not sent.
-    const auto file = Recognise(source);
-    auto plan = PlanStore(device.State(), file, destination, method);
+    auto plan = PlanStore(device.State(), Recognise(source), destination, method);
     if (auto* failure = std::get_if<Failure>(&plan)) {
         return std::move(*failure);
     }
     if (std::get<StorePlan>(plan).isUpToDate) {
-        device.RaiseMessage(EscapeForMessage(file.name) + " is up to date", 0, 0);
-        result = UploadResult::UpToDate;
-        return std::nullopt;
+        return EndAsUpToDate(device, source, result);
     }
-    auto failure = Transfer(device, source, destination, method, verb);
-    if (!failure) {
-        result = UploadResult::Stored;
-    }
-    return failure;
+    return Transfer(device, source, destination, method, verb, result);
 }
 
 Outcome UploadPhoneFile(CDevice& device, const std::string& path, std::int32_t destination,

@@ -39,6 +39,11 @@ std::string ReasonAgainst(std::string_view line, std::size_t roomBytes) {
     return line.find('\0') == line.npos ? "" : "holds a zero byte";
 }
 
+/// The library takes a line that begins with any of these for a further value of the key above it.
+std::string_view WithoutIndentation(std::string_view line) {
+    return line.substr(std::min(line.find_first_not_of(" \t\v\f\r"), line.size()));
+}
+
 char* ReadLine(char* buffer, int size, void* stream) {
     auto& reading = *static_cast<Reading*>(stream);
     if (reading.mistake || reading.rest.empty()) {
@@ -51,8 +56,9 @@ char* ReadLine(char* buffer, int size, void* stream) {
         reading.Refuse(reason);
         return nullptr;
     }
-    std::memcpy(buffer, line.data(), line.size());
-    buffer[line.size()] = '\0';
+    const auto text = WithoutIndentation(line);
+    std::memcpy(buffer, text.data(), text.size());
+    buffer[text.size()] = '\0';
     reading.rest.remove_prefix(line.size());
     return buffer;
 }

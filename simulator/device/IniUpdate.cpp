@@ -3,6 +3,7 @@
 #include "simulator/device/CodeOperations.h"
 #include "simulator/device/FileOperations.h"
 #include "simulator/device/SelfTestRun.h"
+#include "simulator/device/StartMode.h"
 #include "simulator/device/UpdateDescription.h"
 #include "simulator/folder/MessageText.h"
 
@@ -42,7 +43,7 @@ public:
         if (m_loaded == m_description.entries.size()) {
             Note(kVersionFileName, InstallVersionFile());
         }
-        if (auto failure = EndInNormalMode()) {
+        if (auto failure = Start()) {
             return failure;
         }
         isPartial = m_firstFailure.has_value();
@@ -137,9 +138,9 @@ private:
         });
     }
 
-    Outcome EndInNormalMode() {
+    Outcome Start() {
         auto next = m_device.State();
-        next.mode = kNormalMode;
+        next.mode = ModeAfterStart(next);
         return m_device.Change(std::move(next));
     }
 

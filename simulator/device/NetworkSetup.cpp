@@ -95,12 +95,13 @@ void CompleteNetwork(NetworkSettings& settings) {
 }
 
 Outcome CompleteNetworkSettings(const DeviceDescription& device, NetworkSettings& settings) {
-    if (settings.description.size() > kLongestDescription) {
-        return Refuse("The description has " + std::to_string(settings.description.size()) +
-                      " bytes; a device keeps at most 110");
-    }
     if (!IsUtf8(settings.description)) {
         return Failure{kNotUtf8, "The description is not UTF-8"};
+    }
+    const auto characters = CharactersOf(settings.description);
+    if (characters > kLongestDescription) {
+        return Refuse("The description has " + std::to_string(characters) +
+                      " characters; a device keeps at most 110");
     }
     if (!settings.useDhcp) {
         settings.ipAddress = AddressText(settings.ipAddressValue);

@@ -1,6 +1,7 @@
 #include "simulator/device/SelfTestRun.h"
 
 #include "contract/device/ProgrammingDeviceControl.h"
+#include "simulator/device/PhoneFile.h"
 
 #include <algorithm>
 
@@ -79,7 +80,7 @@ void RunStartUpTests(DeviceDescription& device) {
         return file.type == kSecondaryBoot || file.type == kAlgorithm;
     });
     RunFileTest(device, SelfTest::Mcusw, [](const StoredFile& file) {
-        return file.type == kMcuSoftware && file.name != kVersionFileName;
+        return file.type == kMcuSoftware && !IsSameName(file.name, kVersionFileName);
     });
 }
 

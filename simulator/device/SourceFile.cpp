@@ -129,19 +129,30 @@ std::variant<CSourceFile, Failure> CSourceFile::Open(const Path& path) {
 }
 
 Outcome CSourceFile::Read(std::string& bytes, const Progress& progress) const {
+    bytes.clear();
+    bytes.reserve(static_cast<std::size_t>(m_sizeBytes));
+    return ReadInParts([&](std::string_view part) { bytes += part; }, progress);
+}
+
+Outcome CSourceFile::ReadThrough(const Progress& progress) const {
+    return ReadInParts([](std::string_view) {}, progress);
+}
+
+Outcome CSourceFile::ReadInParts(const Take& take, const Progress& progress) const {
     std::ifstream stream(m_path, std::ios::binary);
     if (!stream) {
         return FailToRead(m_path, LastError());
     }
     const auto size = static_cast<std::size_t>(m_sizeBytes);
     const auto chunk = std::max(kSmallestChunk, size / kMostChunks + 1);
-    bytes.assign(size, '\0');
+    std::string part;
     for (std::size_t done = 0; done < size;) {
-        const auto part = std::min(chunk, size - done);
-        if (!stream.read(bytes.data() + done, static_cast<std::streamsize>(part))) {
+        part.resize(std::min(chunk, size - done));
+        if (!stream.read(part.data(), static_cast<std::streamsize>(part.size()))) {
             return FailAsChanged(m_path);
         }
-        done += part;
+        take(part);
+        done += part.size();
         progress(static_cast<std::uint32_t>(done), static_cast<std::uint32_t>(size));
     }
     const bool isLonger = stream.peek() != std::ifstream::traits_type::eof();

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <variant>
 
 namespace simulator {
@@ -37,7 +38,13 @@ public:
     /// when the file is no longer the size it was.
     Outcome Read(std::string& bytes, const Progress& progress) const;
 
+    /// The same for a file whose bytes are not wanted: they are never held all at once.
+    Outcome ReadThrough(const Progress& progress) const;
+
 private:
+    using Take = std::function<void(std::string_view bytes)>;
+
+    Outcome ReadInParts(const Take& take, const Progress& progress) const;
     CSourceFile(std::filesystem::path path, std::int32_t sizeBytes, std::string head);
 
     std::filesystem::path m_path;

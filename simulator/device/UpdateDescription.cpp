@@ -33,8 +33,14 @@ std::string QuotedPath(const Path& path) {
     return IsUtf8(path.string()) ? QuoteForMessage(path.string()) : "the update description";
 }
 
-Failure FailToRead(const Path& path, const std::string& reason) {
-    return {kReadFault, QuotedPath(path) + " cannot be read: " + reason};
+Failure FailToRead(const Path& path, const std::string& reason,
+                   contract::Status status = kReadFault) {
+    return {status, QuotedPath(path) + " cannot be read: " + reason};
+}
+
+Failure FailToRead(const Path& path, const std::error_code& error) {
+    const bool isDenied = error == std::errc::permission_denied;
+    return FailToRead(path, error.message(), isDenied ? kAccessDenied : kReadFault);
 }
 
 std::variant<std::string, Failure> ReadText(const Path& path) {
@@ -43,12 +49,15 @@ std::variant<std::string, Failure> ReadText(const Path& path) {
     if (status.type() == std::filesystem::file_type::not_found) {
         return Failure{kFileNotFound, "There is no update description " + QuotedPath(path)};
     }
+    if (error) {
+        return FailToRead(path, error);
+    }
     if (!std::filesystem::is_regular_file(status)) {
-        return FailToRead(path, error ? error.message() : "it is not a plain file");
+        return FailToRead(path, "it is not a plain file");
     }
     std::ifstream stream(path, std::ios::binary);
     if (!stream) {
-        return FailToRead(path, std::generic_category().message(errno));
+        return FailToRead(path, std::error_code(errno, std::generic_category()));
     }
     std::string text(kLargestFile + 1, '\0');
     stream.read(text.data(), static_cast<std::streamsize>(text.size()));

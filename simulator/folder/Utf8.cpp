@@ -57,4 +57,14 @@ bool IsUtf8(std::string_view text) {
     return true;
 }
 
+std::size_t CharactersOf(std::string_view text) {
+    std::size_t characters = 0;
+    for (const auto part : text) {
+        const auto byte = static_cast<unsigned char>(part);
+        const bool isFirst = (byte & 0xC0) != 0x80;
+        characters += (isFirst ? 1u : 0u) + (byte >= 0xF0 ? 1u : 0u);
+    }
+    return characters;
+}
+
 }

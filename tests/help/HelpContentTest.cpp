@@ -50,7 +50,7 @@ protected:
 };
 
 TEST_F(HelpContentTest, FileLiesBesideTheProgramThatOpensIt) {
-    EXPECT_EQ(ReadFile(KRX8_HELP_BESIDE_PROGRAM), m_text);
+    EXPECT_EQ(ReadFile(KRX8_HELP_BESIDE_COMPONENT), m_text);
 }
 
 TEST_F(HelpContentTest, EveryTopicHasItsOwnNumberAndSomethingToSay) {
@@ -207,6 +207,17 @@ INSTANTIATE_TEST_SUITE_P(
         "Are you sure you want do delete ALL these files?", "Cannot delete MCUSW file with ID ",
         "Cannot delete Algorithm Code file with ID ",
         "Cannot delete Secondary Boot Code file with ID ", "Phone file to be uploaded"));
+
+INSTANTIATE_TEST_SUITE_P(
+    FrontEndsAndWorkstation, HelpOnMessageTest,
+    testing::Values(
+        "### The folder was not found. ",
+        "### The path is too long. Choose a shorter name, or a folder with a shorter path. ",
+        "### File not found. Please verify the correct file name was given. ",
+        "### The help file was not found. It was looked for here: ",
+        "### There is no page NUMBER in this help. ", "### Connect ", "### Show Details... ",
+        "| NAME (gone) |", "| NAME connected |", "| NAME does not answer |",
+        "| No device connected |", "| Phone polling: on |", "| Phone polling: suspended |"));
 
 INSTANTIATE_TEST_SUITE_P(
     StatusLog, HelpOnMessageTest,

@@ -17,7 +17,11 @@ declare -A reaches=(
     [frontend/help]="frontend/help"
     [frontend/registry]="contract panel frontend/registry"
     [frontend/qt]="contract panel frontend/common frontend/help frontend/registry frontend/qt"
-    [workstation]="contract interception simulator panel frontend/headless frontend/qt workstation"
+    [frontend/win32]="contract panel frontend/common frontend/help frontend/win32"
+    [component/linux]="contract panel frontend/registry frontend/qt component/linux"
+    [component/loader]="contract frontend/registry component/loader"
+    [component/register]="contract frontend/registry component/loader"
+    [workstation]="contract interception simulator panel frontend/headless frontend/qt component/loader workstation"
 )
 
 # What each folder may reach by <...>, beside the standard library; folders not named here are free.

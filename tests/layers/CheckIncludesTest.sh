@@ -8,7 +8,8 @@ trap 'rm -rf "$tree"' EXIT
 failures=0
 expect() { # EXPECTED-STATUS FOLDER INCLUDE
     mkdir -p "$tree"/{contract,interception,simulator,panel/control,workstation} \
-        "$tree"/frontend/{common,headless,help,registry,qt}
+        "$tree"/frontend/{common,headless,help,registry,qt,win32} \
+        "$tree"/component/{linux,loader,register}
     printf '#pragma once\n\n#include %s\n' "$3" >"$tree/$2/Probe.h"
     local output status
     output=$("$check" "$tree")
@@ -32,7 +33,11 @@ expect 0 frontend/qt '"frontend/registry/FileRegistry.h"'
 expect 0 frontend/qt '"frontend/help/HelpFile.h"'
 expect 0 frontend/registry '<nlohmann/json.hpp>'
 expect 0 frontend/registry '"panel/control/Registry.h"'
-expect 0 workstation '"frontend/qt/QtPanel.h"'
+expect 0 frontend/win32 '<windows.h>'
+expect 0 frontend/win32 '"frontend/help/HelpFile.h"'
+expect 0 workstation '"frontend/qt/CommandEvent.h"'
+expect 0 workstation '"component/loader/ComponentLibrary.h"'
+expect 0 component/linux '"frontend/qt/QtToolkit.h"'
 
 expect 1 contract '"panel/control/View.h"'
 expect 1 contract '<windows.h>'
@@ -57,7 +62,13 @@ expect 1 frontend/help '"panel/control/View.h"'
 expect 1 frontend/headless '"frontend/registry/FileRegistry.h"'
 expect 1 frontend/qt '"frontend/headless/HeadlessView.h"'
 expect 1 frontend/qt '"simulator/Host.h"'
+expect 1 frontend/qt '"frontend/win32/Win32View.h"'
+expect 1 frontend/win32 '"frontend/qt/QtView.h"'
+expect 1 frontend/win32 '"frontend/headless/HeadlessView.h"'
 expect 1 workstation '"tests/frontend/conformance/FrontEndDriver.h"'
+expect 1 workstation '"component/linux/PanelFactory.h"'
+expect 1 component/loader '"frontend/qt/QtToolkit.h"'
+expect 1 component/linux '"workstation/PanelFactory.h"'
 expect 1 panel/control 'HEADER_BY_MACRO'
 
 ((failures == 0)) && echo "Sound includes pass, wrong ones are caught."

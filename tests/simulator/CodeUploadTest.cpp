@@ -100,6 +100,48 @@ TEST_F(CodeUploadTest, CodeOfOtherContentIsRefused) {
                   "\"a.bin\" is of the content \"application\", not \"fpga\"");
 }
 
+TEST_F(CodeUploadTest, VersionsThatAreNoneAreRefused) {
+    Connect(DeviceWithCode(kKrx10));
+    ExpectRefused(UploadImage(WorkstationFile("i.krx10", "version: 3.1\nfpga: v7\nboot: 1\n")),
+                  0x8007000D,
+                  "\"i.krx10\" gives \"v7\" as \"fpga\", which is no version such as 1.21");
+    ExpectRefused(UploadImage(WorkstationFile("i.krx10", "boot: 2.4.\n")), 0x8007000D,
+                  "\"i.krx10\" gives \"2.4.\" as \"boot\", which is no version such as 1.21");
+    ExpectRefused(UploadImage(WorkstationFile("i_v3.1.krx10", "version: latest\n")), 0x8007000D,
+                  "\"i_v3.1.krx10\" gives \"latest\" as \"version\", which is no version such "
+                  "as 1.21");
+    EXPECT_EQ(Description().software.fpgaCode, "2.2");
+    EXPECT_EQ(Description().software.boot, "3.3");
+}
+
+TEST_F(CodeUploadTest, PartsThatCodeHasNotAreNotLookedAt) {
+    Connect(DeviceWithCode(kKrx8));
+    EXPECT_EQ(UploadApplication(WorkstationFile("a.bin", "version: 4.5\nboot: none\n")),
+              contract::kSuccess);
+    EXPECT_EQ(Description().software.boot, "3.3");
+}
+
+TEST_F(CodeUploadTest, CodeLargerThanTheFlashMemoryIsRefusedUnread) {
+    Connect(DeviceWithCode(kKrx8));
+    const auto path = WorkstationFile("a.bin", std::string(10001, 'x'));
+    ExpectRefused(UploadApplication(path), 0x80070070,
+                  "\"a.bin\" has 10001 bytes, and the whole flash memory 10000");
+    // Read, it would take its time, and a memory of the workstation.
+    std::filesystem::resize_file(path, 2147483647);
+    ExpectRefused(UploadFpga(path), 0x80070070,
+                  "\"a.bin\" has 2147483647 bytes, and the whole flash memory 10000");
+    std::filesystem::resize_file(path, 10000);
+    EXPECT_EQ(UploadApplication(path), contract::kSuccess);
+}
+
+TEST_F(CodeUploadTest, CodeAsLargeAsTheFlashMemoryLeavesItsFilesAlone) {
+    auto description = DeviceWithCode(kKrx8);
+    description.files = {{"a_alg.fia", 21, 7, "1.0", 9990, kInFlash, 4, ""}};
+    Connect(description);
+    EXPECT_EQ(UploadFpga(WorkstationFile("a.bin", std::string(10000, 'x'))), contract::kSuccess);
+    EXPECT_EQ(m_device->FreeFlashBytes(), 10u);
+}
+
 TEST_F(CodeUploadTest, KindThatTheModelDoesNotTakeIsRefused) {
     Connect(DeviceWithCode(kKrx20));
     const auto path = WorkstationFile("a.bin", "x");

@@ -28,7 +28,8 @@ TEST_F(DescriptionWriterTest, SamplesAreWrittenAsTheyAre) {
 }
 
 TEST_F(DescriptionWriterTest, SmallestDescriptionStaysSmall) {
-    EXPECT_EQ(WriteDescription(Read()), R"({
+    EXPECT_EQ(WriteDescription(Read()),
+              R"({
   "model": "KRX-20",
   "mode": "Normal",
   "serialNumber": 7,
@@ -37,8 +38,10 @@ TEST_F(DescriptionWriterTest, SmallestDescriptionStaysSmall) {
     "flashBytes": 4096
   },
   "files": [
-    { "name": "a.fia", "type": "algorithm", "id": 1, "version": "", "location": "RAM", "generation": "none" },
-    { "name": "b.fia", "type": "mcuSoftware", "id": 2, "version": "", "location": 7, "generation": "none", "content": "second" }
+    { "name": "a.fia", "type": "algorithm", "id": 1, "version": "",)"
+              R"( "location": "RAM", "generation": "none" },
+    { "name": "b.fia", "type": "mcuSoftware", "id": 2, "version": "",)"
+              R"( "location": 7, "generation": "none", "content": "second" }
   ]
 }
 )");

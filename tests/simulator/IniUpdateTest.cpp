@@ -1,5 +1,8 @@
 #include "simulator/device/VersionText.h"
 #include "tests/simulator/WritingFixture.h"
+#include "tests/support/WithoutRoot.h"
+
+#include <sys/stat.h>
 
 namespace simulator {
 namespace {
@@ -38,6 +41,15 @@ TEST_F(IniUpdateTest, UpdateLoadsEachFileAndInstallsTheVersion) {
     EXPECT_EQ(FileNamed("a_2nd.fia"), (StoredFile{"a_2nd.fia", 19, 5, "2.0", 19, 2, 0, ""}));
     EXPECT_EQ(FileNamed("b_alg.fg").location, 1);
     EXPECT_EQ(FileNamed("version.fia"), (StoredFile{"version.fia", 22, 1, "5.2.0", 18, 2, 0, ""}));
+}
+
+TEST_F(IniUpdateTest, IndentedLinesAreReadAsOthers) {
+    Connect(SmallDevice(kKrx20));
+    EXPECT_EQ(Update("[package]\n  name = Package\n\tversion = 5.2.0\n \n  [common]\n"
+                     "  file = a_2nd.fia\n \t ; file = gone.fia\n\tfile = sub/b_alg.fg\n  "),
+              contract::kSuccess);
+    EXPECT_EQ(Names(), (NameList{"a_2nd.fia", "b_alg.fg", "version.fia"}));
+    EXPECT_EQ(FileNamed("version.fia").version, "5.2.0");
 }
 
 TEST_F(IniUpdateTest, UpdateReplacesWhatIsThere) {
@@ -158,6 +170,25 @@ TEST_F(IniUpdateTest, MissingDescriptionFails) {
                   "\"" + path + "\" cannot be read: it is not a plain file");
 }
 
+TEST_F(IniUpdateTest, DescriptionThatMayNotBeReadFails) {
+    Connect(SmallDevice(kKrx20));
+    const auto path = WorkstationFile("p/u.ini", Package("file = a_2nd.fia\n"));
+    const auto folder = m_workstation.Path() / "p";
+    for (const auto& open : {m_workstation.Path(), folder}) {
+        ASSERT_EQ(chmod(open.c_str(), 0755), 0);
+    }
+    for (const auto& locked : {std::filesystem::path(path), folder}) {
+        ASSERT_EQ(chmod(locked.c_str(), 0), 0);
+        {
+            const support::CWithoutRoot rights;
+            ExpectFailure(Control()->UpdateFromIniFile(path), 0x80070005,
+                          "\"" + path + "\" cannot be read: Permission denied");
+        }
+        ASSERT_EQ(chmod(locked.c_str(), 0755), 0);
+    }
+    EXPECT_EQ(Names(), NameList{});
+}
+
 TEST_F(IniUpdateTest, HugeDescriptionFails) {
     Connect(SmallDevice(kKrx20));
     const auto path = (m_workstation.Path() / "p/u.ini").string();
@@ -180,6 +211,8 @@ TEST_F(IniUpdateTest, MistakesAreToldWithTheirLine) {
                   ", line 2: is neither a section, a \"key = value\" nor a comment");
     ExpectMistake("[package]\r\n[common\r\n",
                   ", line 2: is neither a section, a \"key = value\" nor a comment");
+    ExpectMistake("[package]\nversion = 1\n\n  more of it\n",
+                  ", line 4: is neither a section, a \"key = value\" nor a comment");
     ExpectMistake("[common]\nfile =\n", ", line 2: names no file");
     ExpectMistake("[common]\nfile = sub/\n", ", line 2: names no file");
     ExpectMistake("[common]\nfile = Version.fia\n",

@@ -1,142 +1,158 @@
-#include "simulator/Device.h"
-#include "simulator/device/FileOperations.h"
-#include "tests/simulator/DeviceFolderFixture.h"
+#include "tests/simulator/DeviceSnapshot.h"
+#include "tests/simulator/WriterFixture.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <csignal>
+#include <iostream>
 #include <random>
-#include <set>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace simulator {
 namespace {
 
-namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
 
-constexpr int kKills = 200;
-constexpr int kGenerations = 5;
-constexpr int kSteps = 5;
+/// Of a writer in each of its steps, which makes 209 in all.
+constexpr std::size_t kKillsPerStep = 11;
 
-/// Kills a process that writes a device, at random moments, and looks at what it left.
-class KillTest : public DeviceFolderFixture {
+/// Kills a process that writes a device, at random moments of each of its operations, and compares
+/// what it left with what the device held before the operation and what it holds after it.
+class KillTest : public WriterFixture {
 protected:
-    /// Each generation of a file is of one letter and one length, so that a mixture would show.
-    static std::string BytesOf(const std::string& name, int generation) {
-        const auto letter = static_cast<char>('a' + generation);
-        return name + " " + std::to_string(generation) + " id=10\n" +
-               std::string(20000 + 3000 * static_cast<std::size_t>(generation), letter);
-    }
-    static std::string WorkstationPath(const fs::path& root, const std::string& name,
-                                       int generation) {
-        return root / std::to_string(generation) / name;
-    }
-
     void SetUp() override {
-        Describe(Replaced(Replaced(kGoodDescription, "4096", "1000000"), "\"mode\"",
-                          "\"pcCard\": { \"totalBytes\": 1000000 }, \"mode\""));
-        for (int generation = 0; generation < kGenerations; ++generation) {
-            for (const auto* name : kNames) {
-                m_workstation.Write(std::to_string(generation) + "/" + name,
-                                    BytesOf(name, generation));
-            }
+        WriterFixture::SetUp();
+        ASSERT_NO_FATAL_FAILURE(Reconnect());
+        // The first round leads from a new device to what every round begins with.
+        ASSERT_NO_FATAL_FAILURE(RunRound());
+        m_durations.clear();
+        m_states = {TakeSnapshot(m_deviceFolder)};
+        ASSERT_NO_FATAL_FAILURE(RunRound());
+        ASSERT_EQ(m_states.back(), m_states.front()) << "The rounds differ";
+        for (std::size_t step = 0; step < StepCount(); ++step) {
+            ASSERT_NE(m_states[step], m_states[step + 1]) << StepAt(step).name << " does nothing";
+        }
+        m_host.RemoveDevice();
+    }
+
+    void RunRound() {
+        for (std::size_t step = 0; step < StepCount(); ++step) {
+            const auto start = Clock::now();
+            ASSERT_TRUE(RunStep(step)) << StepAt(step).name;
+            m_durations.push_back(Clock::now() - start);
+            m_states.push_back(TakeSnapshot(m_deviceFolder));
         }
     }
 
-    /// One of the operations that go round: an upload of each file, a move, a deletion. The last
-    /// two may find nothing to do; an upload that fails would be a fault.
-    static bool Write(CDevice& device, const fs::path& workstation, int step) {
-        const auto round = step / kSteps;
-        std::int32_t result = 0;
-        switch (step % kSteps) {
-        case 3:
-            static_cast<void>(MoveFile(device, 22, 10, 3, 0));
-            return true;
-        case 4:
-            static_cast<void>(round % 3 == 2 ? DeleteFile(device, 0, 0)
-                                             : DeleteFile(device, 19, 10));
-            return true;
-        default:
-            const auto path =
-                WorkstationPath(workstation, kNames[step % kSteps], round % kGenerations);
-            return !UploadPhoneFile(device, path, 2, 1, result);
-        }
-    }
-
-    /// What the child does until it is killed. It writes one byte for each operation.
-    [[noreturn]] static void WriteForEver(const fs::path& folder, const fs::path& workstation,
-                                          int step, int progress) {
-        auto opened = OpenDevice(folder);
-        const auto* device = std::get_if<std::shared_ptr<CDevice>>(&opened);
-        while (device && Write(**device, workstation, step) && write(progress, "+", 1) == 1) {
-            ++step;
+    /// What the child does until it is killed. It writes a byte when it begins and one for each
+    /// step that it has done.
+    [[noreturn]] void WriteForEver(std::size_t step, int progress) {
+        Reconnect();
+        while (!HasFailure() && write(progress, "+", 1) == 1 && RunStep(step)) {
+            step = (step + 1) % StepCount();
         }
         _exit(1);
     }
 
-    /// Kills a writer some time into the operation that follows so many of it.
-    void KillOneWriter(int operations, std::chrono::microseconds life, int firstStep) {
+    /// Has a child write from `first` on and kills it some time after it has begun `target`.
+    /// Returns the step that it was at.
+    std::size_t KillOneWriter(std::size_t first, std::size_t target, Clock::duration life) {
         std::array<int, 2> progress{};
-        ASSERT_EQ(pipe(progress.data()), 0);
+        EXPECT_EQ(pipe(progress.data()), 0);
         const auto child = fork();
-        ASSERT_GE(child, 0);
         if (child == 0) {
-            WriteForEver(m_folder.Path(), m_workstation.Path(), firstStep, progress[1]);
+            WriteForEver(first, progress[1]);
         }
         close(progress[1]);
-        for (char byte = 0; operations > 0; --operations) {
-            EXPECT_EQ(read(progress[0], &byte, 1), 1) << "The writer failed";
-        }
+        const auto before = (target + StepCount() - first) % StepCount();
+        EXPECT_EQ(ReadBytes(progress[0], before + 1), before + 1) << "The writer failed";
         // The moment of the kill is what is tested, so that the clock is asked and no condition.
-        const auto end = std::chrono::steady_clock::now() + life;
-        while (std::chrono::steady_clock::now() < end) {
+        const auto end = Clock::now() + life;
+        while (Clock::now() < end) {
         }
         EXPECT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
         EXPECT_EQ(waitpid(child, &status, 0), child);
         EXPECT_TRUE(WIFSIGNALED(status)) << "The writer ended by itself";
+        const auto after = ReadBytes(progress[0], SIZE_MAX);
         close(progress[0]);
+        return (target + after) % StepCount();
     }
 
-    /// Whatever generation a file is of, it is that one as a whole: bytes, size and version.
-    void ExpectWholeFile(const StoredFile& file) {
-        if (file.name == "a.fia" || file.name == "b.fia") {
-            return;
+    /// Reads until there are so many or the writer is gone.
+    static std::size_t ReadBytes(int progress, std::size_t most) {
+        std::size_t count = 0;
+        for (char byte = 0; count < most && read(progress, &byte, 1) == 1;) {
+            ++count;
         }
-        ASSERT_EQ(file.version.size(), 1u) << file.name;
-        const auto expected = BytesOf(file.name, file.version[0] - '0');
-        std::ostringstream bytes;
-        bytes << std::ifstream(m_folder.Path() / "files" / file.content).rdbuf();
-        EXPECT_TRUE(bytes.str() == expected) << file.name << " is half of something";
-        m_seen.insert(file.name + file.version);
+        return count;
     }
 
-    static constexpr const char* kNames[] = {"one_2nd.fia", "two_alg.fia", "three_mcu.fia"};
-    const CTemporaryFolder m_workstation;
-    std::set<std::string> m_seen;
+    /// Looks at what a writer left that was killed in `step`; returns the step to go on with.
+    std::size_t ExpectBeforeOrAfter(std::size_t step) {
+        const auto found = TakeSnapshot(m_deviceFolder);
+        m_leftovers += HoldsLeftovers(m_deviceFolder) ? 1 : 0;
+        if (found == m_states[step + 1]) {
+            ++m_doneSteps;
+            return (step + 1) % StepCount();
+        }
+        if (found == m_states[step]) {
+            ++m_undoneSteps;
+            return step;
+        }
+        EXPECT_TRUE(StepAt(step).isManyChanges) << "neither before nor after";
+        ExpectEachFileBeforeOrAfter(found, m_states[step], m_states[step + 1]);
+        return step;
+    }
+
+    static void ExpectEachFileBeforeOrAfter(const DeviceSnapshot& found,
+                                            const DeviceSnapshot& before,
+                                            const DeviceSnapshot& after) {
+        for (const auto& state : {found, before, after}) {
+            for (const auto& file : state.files) {
+                EXPECT_TRUE(found.HasSameFile(before, file.name) ||
+                            found.HasSameFile(after, file.name))
+                    << file.name << " is neither as before nor as after";
+            }
+        }
+        EXPECT_TRUE(found.device == before.device || found.device == after.device);
+        // It says that the package is installed, which it is not.
+        EXPECT_TRUE(found.HasSameFile(before, kVersionFileName));
+    }
+
+    std::vector<DeviceSnapshot> m_states;
+    std::vector<Clock::duration> m_durations;
+    std::size_t m_leftovers = 0;
+    std::size_t m_doneSteps = 0;
+    std::size_t m_undoneSteps = 0;
 };
 
-TEST_F(KillTest, KilledWriterLeavesEveryFileAsBeforeOrAfter) {
+TEST_F(KillTest, KilledWriterLeavesTheStateBeforeOrAfter) {
     const auto seed = std::random_device()();
-    RecordProperty("seed", std::to_string(seed));
-    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::cout << "Seed: " << seed << std::endl;
     std::mt19937 random(seed);
-    std::uniform_int_distribution<int> operations(0, 2);
-    std::uniform_int_distribution<int> step(0, kSteps * kGenerations * 3 - 1);
-    std::uniform_int_distribution<int> lifeUs(0, 5000);
-    for (int kills = 0; kills < kKills; ++kills) {
-        KillOneWriter(operations(random), std::chrono::microseconds(lifeUs(random)), step(random));
-        auto opened = OpenDevice(m_folder.Path());
-        if (const auto* error = std::get_if<DescriptionError>(&opened)) {
-            FAIL() << "after kill " << kills << ": " << error->Message();
+    std::size_t next = 0;
+    std::vector<std::size_t> killsLeft(StepCount(), kKillsPerStep);
+    while (!HasFailure() && std::ranges::max(killsLeft) > 0) {
+        auto target = next;
+        while (killsLeft[target] == 0) {
+            target = (target + 1) % StepCount();
         }
-        for (const auto& file : *std::get<std::shared_ptr<CDevice>>(opened)->Files()) {
-            ExpectWholeFile(file);
-        }
+        --killsLeft[target];
+        // Beyond the end as well, where the next operation has begun.
+        std::uniform_real_distribution<double> share(0, 1.2);
+        const auto life =
+            std::chrono::duration_cast<Clock::duration>(m_durations[target] * share(random));
+        const auto step = KillOneWriter(next, target, life);
+        SCOPED_TRACE("seed " + std::to_string(seed) + ", killed in \"" + StepAt(step).name + "\"");
+        next = ExpectBeforeOrAfter(step);
     }
-    // Writers that never got anywhere would prove nothing.
-    EXPECT_GT(m_seen.size(), 10u);
+    // Kills that never hit an operation at work would prove nothing.
+    EXPECT_GT(m_undoneSteps, 10u);
+    EXPECT_GT(m_doneSteps, 10u);
+    EXPECT_GT(m_leftovers, 0u);
 }
 
 }

@@ -124,6 +124,15 @@ TEST_F(MediaTest, ResetFindsMissingFilesAndFilesThatCame) {
     EXPECT_EQ(CodeOf(SelfTest::Mcusw), 0);
 }
 
+TEST_F(MediaTest, VersionFileInCapitalsIsNoMcuSoftwareForTheTest) {
+    m_description.selfTests = {{SelfTest::Mcusw, 0}};
+    Connect(m_description);
+    EXPECT_EQ(Control()->DeleteFile(0, 0), contract::kSuccess);
+    EXPECT_EQ(Upload(WorkstationFile("VERSION.FIA", "VERSION.FIA 1.0\n")), contract::kSuccess);
+    Reset();
+    EXPECT_EQ(CodeOf(SelfTest::Mcusw), 788);
+}
+
 TEST_F(MediaTest, ResetLeavesOtherResultsAlone) {
     m_description.files.clear();
     m_description.selfTests = {{SelfTest::Mcusw, 2},

@@ -148,12 +148,30 @@ TEST_F(NetworkTest, NetworkWithoutGatewayIsTaken) {
               contract::kSuccess);
 }
 
-TEST_F(NetworkTest, DescriptionBeyond110BytesIsRefused) {
+TEST_F(NetworkTest, DescriptionBeyond110CharactersIsRefused) {
     const auto copy = Copy();
     EXPECT_EQ(copy->SetDescription(std::string(111, 'd')), contract::kSuccess);
-    ExpectRefused(*copy, "The description has 111 bytes; a device keeps at most 110");
+    ExpectRefused(*copy, "The description has 111 characters; a device keeps at most 110");
     EXPECT_EQ(copy->SetDescription(std::string(110, 'd')), contract::kSuccess);
     EXPECT_EQ(copy->ApplyConfiguration(), contract::kSuccess);
+}
+
+TEST_F(NetworkTest, DescriptionOf110CharactersOfAnyLengthIsKeptWhole) {
+    std::string cyrillic;
+    std::string emoji;
+    for (int count = 0; count < 55; ++count) {
+        cyrillic += "\u0416\u044F";
+        emoji += "\U0001F4F1";
+    }
+    for (const auto& text : {cyrillic, emoji}) {
+        const auto copy = Copy();
+        EXPECT_EQ(copy->SetDescription(text), contract::kSuccess);
+        EXPECT_EQ(copy->ApplyConfiguration(), contract::kSuccess);
+        EXPECT_EQ(ValueOf(*Copy(), &IConfiguration::GetDescription), text);
+        EXPECT_EQ(copy->SetDescription(text + "d"), contract::kSuccess);
+        ExpectFailure(copy->ApplyConfiguration(), 0x80070057,
+                      "The description has 111 characters; a device keeps at most 110");
+    }
 }
 
 TEST_F(NetworkTest, DescriptionThatIsNotUtf8IsRefused) {

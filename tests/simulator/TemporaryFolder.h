@@ -15,7 +15,10 @@ public:
 
     const std::filesystem::path& Path() const { return m_path; }
 
-    /// Writes a file, with the folders on the way to it.
+    /// The full path of what lies in it. UTF-8.
+    std::string PathOf(const std::string& relativePath) const;
+
+    /// Writes a file, with the folders on the way to it. The path is UTF-8.
     void Write(const std::string& relativePath, const std::string& content) const;
 
 private:

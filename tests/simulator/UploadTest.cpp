@@ -1,50 +1,11 @@
-#include "tests/simulator/WritingFixture.h"
-
-#include <sys/stat.h>
-#include <unistd.h>
+#include "tests/simulator/UploadFixture.h"
 
 namespace simulator {
 namespace {
 
 using NameList = std::vector<std::string>;
 
-/// Gives up the rights of root while it lives, if the tests have them.
-class CWithoutRoot {
-public:
-    CWithoutRoot() : m_user(geteuid()) {
-        if (m_user == 0) {
-            constexpr uid_t kNobody = 65534;
-            EXPECT_EQ(seteuid(kNobody), 0);
-        }
-    }
-    ~CWithoutRoot() { EXPECT_EQ(seteuid(m_user), 0); }
-    CWithoutRoot(const CWithoutRoot&) = delete;
-    CWithoutRoot& operator=(const CWithoutRoot&) = delete;
-
-private:
-    const uid_t m_user;
-};
-
-class UploadTest : public WritingFixture {
-protected:
-    static DeviceDescription DeviceWith(std::vector<StoredFile> files) {
-        auto description = SmallDevice(kKrx20);
-        description.files = std::move(files);
-        return description;
-    }
-    void ExpectRefused(contract::Status status, std::uint32_t bits, const std::string& text) {
-        ExpectFailure(status, bits, text);
-        EXPECT_EQ(m_device->State(), m_before);
-        EXPECT_EQ(m_log->events, Events{});
-        EXPECT_EQ(m_result, -1);
-    }
-    void Connect(DeviceDescription description) {
-        WritingFixture::Connect(std::move(description));
-        m_before = m_device->State();
-    }
-
-    DeviceDescription m_before;
-};
+class UploadTest : public UploadFixture {};
 
 TEST_F(UploadTest, UploadStoresTheFileBehindTheOthers) {
     Connect(DeviceWith({{"a_2nd.fia", 19, 40, "1.0", 10, kInFlash, 3, ""}}));
@@ -87,19 +48,6 @@ TEST_F(UploadTest, ReplacedFileOfMadeUpLocationGoesToFlash) {
     Connect(DeviceWith({{"a_alg.fia", 21, 7, "1.0", 20, 99, 4, ""}}));
     EXPECT_EQ(Upload(WorkstationFile("a_alg.fia", "a")), contract::kSuccess);
     EXPECT_EQ(FileNamed("a_alg.fia").location, 2);
-}
-
-TEST_F(UploadTest, DeviceWithoutFreeIdentifierRefuses) {
-    auto description = SmallDevice(kKrx20);
-    for (std::int32_t id = 0; id <= 0xFFFF; ++id) {
-        description.files.push_back({"a", 21, id, "", 0, kInFlash, 0, ""});
-    }
-    description.files.erase(description.files.begin() + 500);
-    Connect(description);
-    EXPECT_EQ(Upload(WorkstationFile("b_alg.fia", "b")), contract::kSuccess);
-    EXPECT_EQ(FileNamed("b_alg.fia").id, 500);
-    ExpectFailure(Upload(WorkstationFile("c_alg.fia", "c")), 0x80070070,
-                  "The device has no identifier left for a file of type 21");
 }
 
 TEST_F(UploadTest, UploadGoesWhereTheDestinationSays) {
@@ -156,136 +104,12 @@ TEST_F(UploadTest, BackslashesSeparateAsWell) {
     EXPECT_EQ(Names(), NameList{"a_alg.fia"});
 }
 
-TEST_F(UploadTest, LastByteFitsAndOneMoreDoesNot) {
-    Connect(DeviceWith({{"a_alg.fia", 21, 7, "1.0", 9990, kInFlash, 4, ""}}));
-    ExpectRefused(Upload(WorkstationFile("b_alg.fia", std::string(11, 'x'))), 0x80070070,
-                  "\"b_alg.fia\" needs 11 bytes, and flash memory has 10 of 10000 bytes free");
-    EXPECT_EQ(Upload(WorkstationFile("b_alg.fia", std::string(10, 'x'))), contract::kSuccess);
-    EXPECT_EQ(m_device->FreeFlashBytes(), 0u);
-}
-
-TEST_F(UploadTest, FullRamAndCardAreNamed) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("b_alg.fia", std::string(1001, 'x'));
-    ExpectRefused(Upload(path, 1), 0x80070070,
-                  "\"b_alg.fia\" needs 1001 bytes, and RAM has 1000 of 1000 bytes free");
-    ExpectRefused(Upload(path, 3), 0x80070070,
-                  "\"b_alg.fia\" needs 1001 bytes, and the memory card has 500 of 500 bytes free");
-}
-
-TEST_F(UploadTest, ExternalStorageWithoutCardIsRefused) {
-    auto description = SmallDevice(kKrx20);
-    description.pcCard.reset();
-    Connect(description);
-    ExpectRefused(Upload(WorkstationFile("b_alg.fia", "b"), 3), 0x80070015,
-                  "There is no memory card in the device");
-}
-
-TEST_F(UploadTest, MissingFileIsRefused) {
-    Connect(SmallDevice(kKrx20));
-    ExpectRefused(Upload(m_workstation.Path().string() + "/gone.fia"), 0x80070002,
-                  "There is no file \"" + m_workstation.Path().string() + "/gone.fia\"");
-}
-
-TEST_F(UploadTest, EmptyFileIsRefused) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("b_alg.fia", "");
-    ExpectRefused(Upload(path), 0x8007000D, "\"" + path + "\" is empty");
-}
-
-TEST_F(UploadTest, FolderIsRefused) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = m_workstation.Path().string();
-    ExpectRefused(Upload(path), 0x80070057, "\"" + path + "\" is not a plain file");
-}
-
-TEST_F(UploadTest, FileThatMayNotBeReadIsRefused) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("b_alg.fia", "b");
-    ASSERT_EQ(chmod(m_workstation.Path().c_str(), 0755), 0);
-    ASSERT_EQ(chmod(path.c_str(), 0), 0);
-    const CWithoutRoot rights;
-    ExpectRefused(Upload(path), 0x80070005, "\"" + path + "\" cannot be read: Permission denied");
-}
-
-TEST_F(UploadTest, FileInAFolderThatMayNotBeReadIsRefused) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("sub/b_alg.fia", "b");
-    ASSERT_EQ(chmod((m_workstation.Path() / "sub").c_str(), 0), 0);
-    {
-        const CWithoutRoot rights;
-        ExpectRefused(Upload(path), 0x80070005,
-                      "\"" + path + "\" cannot be read: Permission denied");
-    }
-    ASSERT_EQ(chmod((m_workstation.Path() / "sub").c_str(), 0700), 0);
-}
-
-TEST_F(UploadTest, PipeIsRefusedWithoutWaiting) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = m_workstation.Path().string() + "/pipe";
-    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-    ExpectRefused(Upload(path), 0x80070057, "\"" + path + "\" is not a plain file");
-}
-
-TEST_F(UploadTest, FileBeyondAllSizesIsRefusedUnread) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("b_alg.fia", "b");
-    std::filesystem::resize_file(path, 2147483648);
-    ExpectRefused(Upload(path), 0x80070070,
-                  "\"" + path +
-                      "\" has 2147483648 bytes; a device keeps files of at most "
-                      "2147483647");
-}
-
-TEST_F(UploadTest, NameBeyond256BytesIsRefused) {
-    Connect(SmallDevice(kKrx20));
-    ExpectRefused(Upload("/" + std::string(257, 'n')), 0x800700CE,
-                  "The name of the file has 257 bytes; a device keeps at most 256");
-}
-
-TEST_F(UploadTest, NameThatIsNotUtf8IsRefused) {
-    Connect(SmallDevice(kKrx20));
-    ExpectRefused(Upload(WorkstationFile("b\xFF_alg.fia", "b")), 0x80070459,
-                  "The name of the file is not UTF-8");
-}
-
-TEST_F(UploadTest, FileThatGrowsWhileItIsReadIsRefused) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("b_alg.fia", "b");
-    m_log->onEvent = [&] { WorkstationFile("b_alg.fia", "bbb"); };
-    ExpectFailure(Upload(path), 0x8007001E, "\"" + path + "\" was changed while it was read");
-    EXPECT_EQ(m_device->State(), m_before);
-}
-
 TEST_F(UploadTest, FileThatVanishesWhileItIsReadIsStored) {
     Connect(SmallDevice(kKrx20));
     const auto path = WorkstationFile("b_alg.fia", "b");
     m_log->onEvent = [&] { std::filesystem::remove(path); };
     EXPECT_EQ(Upload(path), contract::kSuccess);
     EXPECT_EQ(Names(), NameList{"b_alg.fia"});
-}
-
-TEST_F(UploadTest, UnknownDestinationAndMethodAreRefused) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("b_alg.fia", "b");
-    ExpectRefused(Upload(path, 4), 0x80070057, "There is no destination 4");
-    ExpectRefused(Upload(path, -1), 0x80070057, "There is no destination -1");
-    ExpectRefused(Upload(path, 0, -1), 0x80070057, "There is no method -1");
-}
-
-TEST_F(UploadTest, OutsideNormalModeOnlyKrx8FamilyTakesFiles) {
-    for (const auto type : {kKrx8, kKrx8c}) {
-        auto description = SmallDevice(type);
-        description.mode = kServiceMode;
-        InsertDevice(description);
-        EXPECT_EQ(Upload(WorkstationFile("b_alg.fia", "b")), contract::kSuccess);
-    }
-    m_result = -1;
-    auto description = SmallDevice(kKrx21);
-    description.mode = kServiceMode;
-    Connect(description);
-    ExpectRefused(Upload(WorkstationFile("b_alg.fia", "b")), 0x80070015,
-                  "The device is not in Normal mode, in which alone it handles files");
 }
 
 TEST_F(UploadTest, DeviceChangedFromInsideAMessageIsNotSetBack) {
@@ -300,31 +124,20 @@ TEST_F(UploadTest, DeviceChangedFromInsideAMessageIsNotSetBack) {
     EXPECT_EQ(FileNamed("outer_alg.fia").id, 2);
 }
 
-TEST_F(UploadTest, KnobsFailTheUploadBeforeItStarts) {
-    auto description = SmallDevice(kKrx20);
-    description.latency.operationsMs["ProgrammingDeviceControl.UploadPhoneFile"] = 70;
-    description.faults = {{"ProgrammingDeviceControl.UploadPhoneFile", 1, false,
-                           contract::Status::FromBits(0x80000001), "Worn out"}};
-    Connect(description);
-    const auto path = WorkstationFile("b_alg.fia", "b");
-    ExpectRefused(Upload(path), 0x80000001, "Worn out");
-    EXPECT_EQ(Upload(path), contract::kSuccess);
-    EXPECT_EQ(m_waits,
-              std::vector(2, interception::CLatency::Duration(std::chrono::milliseconds(70))));
-}
-
-TEST_F(UploadTest, DeviceLostInTheUploadKeepsWhatItHeld) {
-    auto description = SmallDevice(kKrx20);
-    description.loss = DeviceLoss{"ProgrammingDeviceControl.UploadPhoneFile", 1, {}};
-    Connect(description);
-    ExpectRefused(Upload(WorkstationFile("b_alg.fia", "b")), 0x8007048F,
-                  "The programming device was disconnected");
-    m_host.BringBackLostDevice();
-    EXPECT_EQ(Upload(WorkstationFile("b_alg.fia", "b")), contract::kSuccess);
-}
-
-TEST_F(UploadTest, UploadWithoutDeviceFails) {
-    ExpectFailure(Upload("/a"), 0x8007048F, "No programming device is connected");
+TEST_F(UploadTest, FileStoredFromInsideItsOwnMessageIsUpToDate) {
+    Connect(SmallDevice(kKrx20));
+    const auto path = WorkstationFile("a_alg.fia", "a_alg.fia 2.0\n");
+    m_log->onEvent = [&] {
+        m_log->onEvent = [] {};
+        EXPECT_EQ(Upload(path, 1, 1), contract::kSuccess);
+    };
+    EXPECT_EQ(Upload(path, 2, 2), contract::kSuccess);
+    EXPECT_EQ(m_result, 1);
+    EXPECT_EQ(Names(), NameList{"a_alg.fia"});
+    EXPECT_EQ(FileNamed("a_alg.fia").location, 1);
+    EXPECT_EQ(m_log->events,
+              (Events{"message Uploading a_alg.fia 14/14", "message Uploading a_alg.fia 14/14",
+                      "message a_alg.fia is up to date 0/0"}));
 }
 
 }

@@ -21,6 +21,13 @@ TEST(Utf8Test, OverlongFormsAndSurrogatesAreRefused) {
     }
 }
 
+TEST(Utf8Test, CharactersAreCountedAsInUtf16) {
+    EXPECT_EQ(CharactersOf(""), 0u);
+    EXPECT_EQ(CharactersOf("az"), 2u);
+    EXPECT_EQ(CharactersOf("\u00DF\u20AC\uFFFD"), 3u);
+    EXPECT_EQ(CharactersOf("\U00010000\U0010FFFF"), 4u);
+}
+
 TEST(Utf8Test, PartsOfCharactersAreRefused) {
     for (const auto* text : {"\x80", "a\xBF", "\xC3", "\xE2\x82", "\xE2\x82q", "\xF0\x9F\x98",
                              "\xF0\x9F\x98q", "\xC3q", "\xFF"}) {

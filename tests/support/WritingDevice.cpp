@@ -1,5 +1,7 @@
 #include "tests/support/WritingDevice.h"
 
+#include "contract/device/HardwareInfo.h"
+
 #include <cstdio>
 #include <utility>
 
@@ -18,6 +20,38 @@ std::string Hex(std::uint32_t number) {
     std::snprintf(text, sizeof text, "0x%08X", number);
     return text;
 }
+
+/// A device's values, with another type in the place of its own.
+class COtherType final : public contract::IHardwareInfo {
+public:
+    COtherType(std::shared_ptr<contract::IHardwareInfo> info, std::int32_t type)
+        : m_info(std::move(info)), m_type(type) {}
+
+    Status GetDeviceType(std::int32_t& type) override {
+        std::int32_t own = 0;
+        const Status status = m_info->GetDeviceType(own);
+        if (status.IsSuccess()) {
+            type = m_type;
+        }
+        return status;
+    }
+    Status GetHardwareVersion(std::string& version) override {
+        return m_info->GetHardwareVersion(version);
+    }
+    Status GetTotalRamSize(std::uint32_t& sizeBytes) override {
+        return m_info->GetTotalRamSize(sizeBytes);
+    }
+    Status GetTotalFlashSize(std::uint32_t& sizeBytes) override {
+        return m_info->GetTotalFlashSize(sizeBytes);
+    }
+    Status GetSerialNumber(std::int32_t& serialNumber) override {
+        return m_info->GetSerialNumber(serialNumber);
+    }
+
+private:
+    const std::shared_ptr<contract::IHardwareInfo> m_info;
+    const std::int32_t m_type;
+};
 
 template <class First, class... Rest>
 std::string Called(const char* operation, const First& first, const Rest&... rest) {
@@ -87,6 +121,14 @@ Status CWritingDevice::QueryCommunicationConfiguration2(
     const Status status = m_configuration->QueryCommunicationConfiguration2(m_network);
     if (status.IsSuccess()) {
         configuration = shared_from_this();
+    }
+    return status;
+}
+
+Status CWritingDevice::GetHardwareInfo(std::shared_ptr<contract::IHardwareInfo>& info) {
+    const Status status = m_control->GetHardwareInfo(info);
+    if (status.IsSuccess() && toldType) {
+        info = std::make_shared<COtherType>(info, *toldType);
     }
     return status;
 }

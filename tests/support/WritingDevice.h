@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,8 @@ public:
     std::vector<std::string> calls;
     /// What a call answers; success at first. May leave a description.
     std::function<Status(const std::string& call)> answer;
+    /// The type that the device says it is of; none: its own.
+    std::optional<std::int32_t> toldType;
 
     // contract::ISubsystemAccess, ISubsystem and IProgrammingDeviceSubsystem
     Status GetSubsystem(const contract::Guid& identifier,
@@ -53,9 +56,7 @@ public:
         override {
         return m_control->QueryBaseObject(object);
     }
-    Status GetHardwareInfo(std::shared_ptr<contract::IHardwareInfo>& info) override {
-        return m_control->GetHardwareInfo(info);
-    }
+    Status GetHardwareInfo(std::shared_ptr<contract::IHardwareInfo>& info) override;
     Status GetSoftwareInfo(std::shared_ptr<contract::ISoftwareInfo>& info) override {
         return m_control->GetSoftwareInfo(info);
     }

@@ -27,6 +27,7 @@ bool IsAnsweredByDevice(std::string_view operation) {
 CExpectation::CExpectation(simulator::DeviceDescription device, std::string packageVersion)
     : isPolling(PollsAtFirst(device)),
       m_device(std::move(device)),
+      m_toldType(m_device.type),
       m_packageVersion(std::move(packageVersion)) {}
 
 void CExpectation::Arrange(const Plan& plan) {
@@ -56,7 +57,7 @@ Observation CExpectation::Take() {
 }
 
 bool CExpectation::CanShowADevice() const {
-    const bool isKnown = m_device.type >= 1 && m_device.type <= 5;
+    const bool isKnown = m_toldType >= 1 && m_toldType <= 5;
     return isKnown && m_picture && m_isWhole && held.hearsDevice && !m_isGone;
 }
 

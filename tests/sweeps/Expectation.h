@@ -32,6 +32,8 @@ public:
 
         Kind kind;
         std::int32_t answer = 0;
+        /// The system cannot make it.
+        bool fails = false;
     };
 
     /// A panel with a device, on a workstation that has an update package of that version.
@@ -75,6 +77,7 @@ public:
     void RaiseMessage(const std::string& text, std::uint32_t done, std::uint32_t total) override;
     void RaiseDeviceEvent3() override {}
     void InsertDevice() override;
+    void TellType(std::int32_t type) override { m_toldType = type; }
     void LoseDevice() override;
     void PressButton(panel::ControlId id) override;
     void SelectRows(const std::vector<int>& rows) override;
@@ -98,15 +101,19 @@ public:
     void Report(const std::string& text, const std::string& caption);
     void Warn(const std::string& text, const std::string& caption);
     /// A box of that style that no failure causes.
-    void Tell(const std::string& text, const std::string& caption, std::uint32_t style);
+    void Tell(const std::string& text, const std::string& caption, std::uint32_t style,
+              contract::Status status = contract::kSuccess);
     /// A question, and the button with which it is answered.
     std::int32_t Ask(const std::string& text, const std::string& caption);
     void WriteLine(const std::string& text);
+    /// Whether a dialog of the panel, or its menu, can be made.
+    bool CanMake(Prompt::Kind kind);
     /// A dialog or menu, open. `kind` is one that is left by `answer`.
     void OpenDialog(Prompt::Kind kind, DialogRows rows, std::int32_t answer = 0);
     /// The user's answer to the next offer of an update.
     std::int32_t TakeOfferAnswer();
     const Answers& UserAnswers() const { return m_answers; }
+    contract::Status UpdateStatus() const { return m_plan.updateStatus; }
     /// What a call wrote to the device.
     void NoteWrite(const std::string& call);
     void NoteReport(const std::string& text) { m_seen.report = text; }
@@ -118,6 +125,8 @@ public:
     Picture* List();
 
     const simulator::DeviceDescription& Device() const { return m_device; }
+    /// What the device says it is.
+    std::int32_t ToldType() const { return m_toldType; }
     const std::string& PackageVersion() const { return m_packageVersion; }
 
     Kept kept;
@@ -125,6 +134,9 @@ public:
     int waitCursors = 0;
     /// Refreshes and listings under way.
     int refreshes = 0;
+    /// What the dialog of a phone file's upload proposes.
+    std::int32_t uploadMethod = 3;
+    std::int32_t uploadDestination = 0;
     /// Counts the fillings of the file list begun.
     std::uint64_t fillings = 0;
     /// What the panel holds of its host.
@@ -166,6 +178,7 @@ private:
     void EndPanel();
 
     const simulator::DeviceDescription m_device;
+    std::int32_t m_toldType;
     const std::string m_packageVersion;
     Plan m_plan;
     Answers m_answers;

@@ -17,8 +17,9 @@ void CExpectation::Warn(const std::string& text, const std::string& caption) {
     Tell(text, caption, 0x30);
 }
 
-void CExpectation::Tell(const std::string& text, const std::string& caption, std::uint32_t style) {
-    Show({text, caption, style, 0, ""});
+void CExpectation::Tell(const std::string& text, const std::string& caption, std::uint32_t style,
+                        contract::Status status) {
+    Show({text, caption, style, status.Code(), ""});
 }
 
 std::int32_t CExpectation::Ask(const std::string& text, const std::string& caption) {
@@ -59,6 +60,13 @@ void CExpectation::OpenBox() {
         m_seen.behindBoxes.push_back(*m_picture);
     }
     Intrude(Moment::WhileBoxOpen, ++m_boxes);
+}
+
+bool CExpectation::CanMake(Prompt::Kind kind) {
+    if (m_answers.getsNoPrompt) {
+        m_prompts.push_back({.kind = kind, .fails = true});
+    }
+    return !m_answers.getsNoPrompt;
 }
 
 void CExpectation::OpenDialog(Prompt::Kind kind, DialogRows rows, std::int32_t answer) {

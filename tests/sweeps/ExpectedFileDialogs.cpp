@@ -9,8 +9,17 @@ bool ExpectFileDialog(CExpectation& panel, const ExpectedFileDialog& dialog) {
     rows.insert(rows.end(), dialog.filters.begin(), dialog.filters.end());
     using enum CExpectation::Prompt::Kind;
     panel.OpenDialog(dialog.saves ? SaveFile : OpenFile, std::move(rows));
-    const FileChoice choice = panel.UserAnswers().file;
-    return choice == FileChoice::Taken || choice == FileChoice::InNoFolder;
+    switch (panel.UserAnswers().file) {
+    case FileChoice::Taken:
+    case FileChoice::InNoFolder:
+    case FileChoice::UnreadableMethod:
+    case FileChoice::UnreadableDestination:
+        return true;
+    case FileChoice::WithoutPath:
+        return dialog.saves;
+    default:
+        return false;
+    }
 }
 
 }

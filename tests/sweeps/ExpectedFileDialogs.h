@@ -19,7 +19,8 @@ struct ExpectedFileDialog {
     bool saves = false;
 };
 
-/// The dialog, open; whether the user takes a file.
+/// The dialog, open; whether the panel goes on with what the user takes. A path to read from must
+/// not be empty; one to write to is tried whatever it is.
 bool ExpectFileDialog(CExpectation& panel, const ExpectedFileDialog& dialog);
 
 }

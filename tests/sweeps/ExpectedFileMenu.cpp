@@ -134,15 +134,21 @@ void ExpectChoice(CExpectation& panel, int command, std::uint32_t type) {
 }
 
 void ExpectFileMenu(CExpectation& panel) {
+    const std::uint64_t filling = panel.fillings;
     const Selection selection = SelectionOf(panel);
+    if (!panel.CanMake(CExpectation::Prompt::Kind::Menu)) {
+        panel.Tell("Popup menu creation failed", "Prommer Maintenance", 0x10,
+                   contract::Status::FromBits(0x80070008));
+        return;
+    }
     const bool hasStorage = selection.selected > 0 && !IsKrx8Family(panel) &&
                             panel.CallInTurn({"ProgrammingDeviceControl.GetExternalStorages",
                                               "ExternalStorages.GetCount"}) &&
                             panel.Device().pcCard;
-    // A choice made for files that are listed anew while the menu is open is void.
-    const std::uint64_t filling = panel.fillings;
     const int command = ExpectMenu(panel, Items(panel, selection, hasStorage));
-    if (panel.fillings == filling) {
+    // What was chosen for files that have been listed anew since is void.
+    const bool isForFiles = command >= 2 && command <= 4;
+    if (panel.fillings == filling || !isForFiles) {
         ExpectChoice(panel, command, selection.type);
     }
 }

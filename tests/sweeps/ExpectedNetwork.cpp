@@ -169,6 +169,9 @@ void ExpectNetwork(CExpectation& panel) {
     if (answer.usesDhcp) {
         values = {answer, 0xFFFFFFFF, 0, 0};
     }
+    if (!panel.CanMake(CExpectation::Prompt::Kind::Network)) {
+        return;
+    }
     panel.OpenDialog(CExpectation::Prompt::Kind::Network, Rows(panel.kept));
     if (!answer.isConfirmed) {
         return;

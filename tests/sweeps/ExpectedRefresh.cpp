@@ -173,7 +173,7 @@ void ExpectTypeRead(CExpectation& panel) {
         panel.Report("Failed to read the Programming Device type", kCaption);
         return;
     }
-    panel.kept.type = panel.Device().type;
+    panel.kept.type = panel.ToldType();
     if (panel.kept.type >= 1 && panel.kept.type <= 5) {
         ExpectRefresh(panel);
     } else {

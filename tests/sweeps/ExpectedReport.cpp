@@ -149,7 +149,7 @@ void ExpectReport(CExpectation& panel) {
     if (!isChosen) {
         return;
     }
-    if (panel.UserAnswers().file == FileChoice::InNoFolder) {
+    if (panel.UserAnswers().file != FileChoice::Taken) {
         panel.Tell("Error in printing report to file.", kCaption, 0x10);
         return;
     }

@@ -89,7 +89,7 @@ bool ExpectSelfTestQuery(CExpectation& panel) {
 }
 
 void ExpectDetails(CExpectation& panel) {
-    if (!ExpectResults(panel)) {
+    if (!ExpectResults(panel) || !panel.CanMake(CExpectation::Prompt::Kind::SelfTests)) {
         return;
     }
     DialogRows rows;

@@ -41,10 +41,14 @@ bool ExpectUpdateFrom(CExpectation& panel, const std::string& path) {
 }
 
 void ExpectOutcome(CExpectation& panel, bool isDone) {
-    if (isDone) {
-        panel.Tell("Prommer SW updated succesfully.", kCaption, 0x40);
-    } else {
+    const contract::Status status = panel.UpdateStatus();
+    if (!isDone) {
         panel.Report("Programming Device update via INI-file failed", kCaption);
+    } else if (status == contract::Status::FromBits(0x041B1010)) {
+        panel.Tell("Update via INI-file partially failed: not all files are updated", kCaption,
+                   0x30, status);
+    } else {
+        panel.Tell("Prommer SW updated succesfully.", kCaption, 0x40, status);
     }
 }
 
@@ -70,6 +74,9 @@ void ExpectUpdateCheck(CExpectation& panel) {
         if (package <= installed) {
             return;
         }
+    }
+    if (!panel.CanMake(CExpectation::Prompt::Kind::Offer)) {
+        return;
     }
     const std::int32_t answer = panel.TakeOfferAnswer();
     panel.OpenDialog(CExpectation::Prompt::Kind::Offer, OfferRows(package, installed), answer);

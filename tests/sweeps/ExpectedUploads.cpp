@@ -63,19 +63,42 @@ void ExpectCodeUploaded(CExpectation& panel, const CodeUpload& upload) {
     }
 }
 
+/// The method comes first, and without it the destination is not looked at. What cannot be read is
+/// taken all the same, as -1.
+void ExpectOptionsTaken(CExpectation& panel, FileChoice choice) {
+    if (choice == FileChoice::WithoutMethod) {
+        panel.Warn("Method not selected", kPhoneCaption);
+        return;
+    }
+    const bool isMethodRead = choice != FileChoice::UnreadableMethod;
+    if (!isMethodRead) {
+        panel.Warn("Upload method retrieving failed", kPhoneCaption);
+    }
+    panel.uploadMethod = isMethodRead ? 3 : -1;
+    if (choice == FileChoice::WithoutDestination) {
+        panel.Warn("Destination not selected", kPhoneCaption);
+        return;
+    }
+    const bool isDestinationRead = choice != FileChoice::UnreadableDestination;
+    if (!isDestinationRead) {
+        panel.Warn("Destination retrieving failed", kPhoneCaption);
+    }
+    panel.uploadDestination = isDestinationRead ? 0 : -1;
+}
+
 bool ExpectPhoneFileDialog(CExpectation& panel) {
     const bool isTaken = ExpectFileDialog(
         panel, {.title = "Phone file to be uploaded",
                 .filters = {{"All files (*.*)", "*.*"},
                             {"Secondary and Algorithm files (*.fia)", "*.fia"},
-                            {"Secondary and Algorithm files for QX3 (*.fg)", "*.fg"}}});
+                            {"Secondary and Algorithm files for QX3 (*.fg)", "*.fg"},
+                            {std::to_string(panel.uploadMethod),
+                             std::to_string(panel.uploadDestination)}}});
     const FileChoice choice = panel.UserAnswers().file;
-    if (choice == FileChoice::WithoutMethod) {
-        panel.Warn("Method not selected", kPhoneCaption);
-    } else if (choice == FileChoice::WithoutDestination) {
-        panel.Warn("Destination not selected", kPhoneCaption);
-    } else if (choice == FileChoice::Failed) {
+    if (choice == FileChoice::Failed) {
         panel.Tell("GetOpenFileName() failed, error code 12290", kPhoneCaption, 0x10);
+    } else if (choice != FileChoice::Cancelled) {
+        ExpectOptionsTaken(panel, choice);
     }
     return isTaken;
 }
@@ -86,7 +109,9 @@ void ExpectPhoneFileUpload(CExpectation& panel) {
     }
     const CExpectedCursor cursor(panel);
     const bool isDone = panel.Call("ProgrammingDeviceControl.UploadPhoneFile", [&] {
-        panel.NoteWrite(std::string("UploadPhoneFile(") + kChosenPath + ", 0, 3)");
+        panel.NoteWrite(std::string("UploadPhoneFile(") + kChosenPath + ", " +
+                        std::to_string(panel.uploadDestination) + ", " +
+                        std::to_string(panel.uploadMethod) + ")");
     });
     if (!isDone) {
         panel.Report("Phone Code file uploading failed", "Phone Code file upload");

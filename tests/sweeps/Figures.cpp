@@ -1,5 +1,7 @@
 #include "tests/sweeps/Figures.h"
 
+#include "tests/sweeps/Tier.h"
+
 #include <gtest/gtest.h>
 
 #include <iostream>
@@ -12,10 +14,10 @@ class CPrintFigures final : public testing::Environment {
 public:
     void TearDown() override {
         const Figures& figures = TheFigures();
-        std::cout << "swept: " << figures.scenarios << " scenarios, " << figures.runs << " runs, "
-                  << figures.callsSpoilt << " calls spoilt, " << figures.events
-                  << " events inside of calls and prompts, " << figures.promptsAnswered
-                  << " prompts answered\n";
+        std::cout << (IsFullTier() ? "swept in full: " : "swept: ") << figures.scenarios
+                  << " scenarios, " << figures.runs << " runs, " << figures.callsSpoilt
+                  << " calls spoilt, " << figures.events << " events inside of calls and prompts, "
+                  << figures.promptsAnswered << " prompts answered\n";
     }
 };
 

@@ -25,7 +25,8 @@ std::string Describe(const Answers& answers) {
                        std::to_string(static_cast<int>(answers.file)) + ", network " +
                        (network.isConfirmed ? "OK" : "Cancel") + (network.usesDhcp ? " DHCP" : "") +
                        (network.formatsFlash ? " Flash" : "") +
-                       (network.formatsPcCard ? " PCCard" : "") + ", offers";
+                       (network.formatsPcCard ? " PCCard" : "") +
+                       (answers.getsNoPrompt ? ", no menu and no dialog" : "") + ", offers";
     for (const std::int32_t offer : answers.offers) {
         text += " " + std::to_string(offer);
     }
@@ -49,6 +50,9 @@ std::string Describe(const Plan& plan) {
     if (plan.intrusion) {
         text += std::string(plan.intrusion->event->name) + " " + Name(plan.intrusion->moment) +
                 std::to_string(plan.intrusion->number) + "; ";
+    }
+    if (plan.updateStatus != contract::kSuccess) {
+        text += "update succeeds with " + std::to_string(plan.updateStatus.Code()) + "; ";
     }
     if (plan.answers) {
         text += Describe(*plan.answers);

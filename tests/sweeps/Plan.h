@@ -16,6 +16,9 @@ class IStage;
 inline constexpr auto kFaultStatus = contract::Status::FromBits(0x800700AA);
 inline constexpr const char* kFaultDescription = "The line is noisy.";
 
+/// How the system fails that cannot make a menu or a dialog.
+inline constexpr int kNoPromptError = 8;
+
 /// How every call fails that a lost device should have answered.
 inline constexpr auto kLostStatus = contract::Status::FromBits(0x8007048F);
 inline constexpr const char* kLostDescription = "The device is gone.";
@@ -24,8 +27,19 @@ inline constexpr const char* kLostDescription = "The device is gone.";
 inline constexpr auto kNoDisplayStatus = contract::Status::FromBits(0x80040155);
 
 /// What the user does with an open or save dialog: takes a file, cancels, or sees it fail. A file
-/// may lie in a folder that there is not, and options may be left unchosen.
-enum class FileChoice { Taken, Cancelled, Failed, InNoFolder, WithoutMethod, WithoutDestination };
+/// may lie in a folder that there is not or have no path at all, and options may be left unchosen
+/// or be chosen in vain, since the system cannot tell which it was.
+enum class FileChoice {
+    Taken,
+    Cancelled,
+    Failed,
+    WithoutPath,
+    InNoFolder,
+    WithoutMethod,
+    WithoutDestination,
+    UnreadableMethod,
+    UnreadableDestination
+};
 
 /// What the user does with the network dialog: changes address and description and confirms, unless
 /// it is said.
@@ -46,6 +60,8 @@ struct Answers {
     int command = 0;
     FileChoice file = FileChoice::Taken;
     NetworkAnswer network = {};
+    /// The system can make neither the file menu nor a dialog of the panel.
+    bool getsNoPrompt = false;
 };
 
 /// Something that host or device do of their own accord.
@@ -84,6 +100,8 @@ struct Plan {
     std::optional<Intrusion> intrusion = {};
     /// Those of the scenario, unless it is said.
     std::optional<Answers> answers = {};
+    /// How the device succeeds with an update.
+    contract::Status updateStatus = contract::kSuccess;
 };
 
 /// The plan in words.

@@ -50,7 +50,8 @@ void ArriveAgain(IStage& stage) {
 void PressDetails(IStage& stage) { stage.PressButton(panel::kDetailsButton); }
 
 const std::vector<std::int32_t> kKnownModels{1, 2, 3, 4, 5};
-const std::vector<std::int32_t> kAllModels{1, 2, 3, 4, 5, 6};
+constexpr std::int32_t kUnknownModel = 6;
+const std::vector<std::int32_t> kAllModels{1, 2, 3, 4, 5, kUnknownModel};
 const std::vector<std::int32_t> kAllModes{1, 2, 3};
 
 const Scenario kScenarios[] = {
@@ -111,9 +112,9 @@ constexpr std::int32_t kYes = 6;
 Answers Choosing(int command) { return {.command = command}; }
 
 const std::vector<std::int32_t> kKrx8Models{1, 2};
-const std::vector<std::int32_t> kNetworkedModels{3, 4, 5};
+const std::vector<std::int32_t> kAllButKrx8Models{3, 4, 5, kUnknownModel};
 const std::vector<std::int32_t> kNormal{1};
-const std::vector<std::int32_t> kNormalAndService{1, 2};
+const std::vector<std::int32_t> kServiceAndMaintenance{2, 3};
 
 template <void (*command)(IStage&)>
 Scenario Command(const char* name, const std::vector<std::int32_t>& models,
@@ -128,37 +129,81 @@ Scenario Command(const char* name, const std::vector<std::int32_t>& models,
             .answers = answers};
 }
 
-/// The workstation's package is newer than the device's; the offer is accepted once.
-Scenario AcceptedOffer() {
-    Scenario scenario =
-        Command<Arrive>("AcceptedOffer", kKnownModels, kNormalAndService, {.offers = {kYes}});
-    scenario.setUp = PrepareArrival;
-    scenario.again = ArriveAgain;
+Scenario Updating(Scenario scenario) {
+    scenario.updates = true;
+    return scenario;
+}
+
+/// The workstation's package is newer than the device's.
+Scenario WithNewerPackage(Scenario scenario) {
     scenario.packageVersion = "2.6.0";
     return scenario;
 }
 
-const Scenario kCommands[] = {
-    Command<DeleteByKey>("DeleteByKey", kKnownModels, kNormalAndService),
-    Command<DeleteSeveral>("DeleteSeveral", kKnownModels, kNormal),
-    Command<DeleteAll>("DeleteAll", kKnownModels, kNormal),
-    Command<PressReset>("Reset", kKnownModels, kNormalAndService),
-    Command<PressReport>("Report", kKnownModels, kNormalAndService),
-    Command<PressUpdate>("Update", kKnownModels, kNormalAndService),
+/// The offer at a device's arrival is accepted once.
+Scenario AcceptedOffer() {
+    Scenario scenario =
+        Updating(Command<Arrive>("AcceptedOffer", kKnownModels, kAllModes, {.offers = {kYes}}));
+    scenario.setUp = PrepareArrival;
+    scenario.again = ArriveAgain;
+    return WithNewerPackage(scenario);
+}
+
+const std::vector<Scenario> kCommandRows{
+    Command<DeleteByKey>("DeleteByKey", kAllModels, kAllModes),
+    Command<DeleteSeveral>("DeleteSeveral", kAllModels, kNormal),
+    Command<DeleteAll>("DeleteAll", kAllModels, kNormal),
+    Command<PressReset>("Reset", kAllModels, kAllModes),
+    Command<PressReport>("Report", kAllModels, kAllModes),
+    Updating(Command<PressUpdate>("Update", kAllModels, kAllModes)),
     AcceptedOffer(),
-    Command<PressNetwork>("Network", kNetworkedModels, kNormalAndService),
-    Command<PressNetwork>("NetworkFormatting", kNetworkedModels, kNormalAndService,
+    // The only way to an offer for a device of an unknown model.
+    WithNewerPackage(Updating(
+        Command<PressReset>("OfferAfterReset", {kUnknownModel}, kAllModes, {.offers = {kYes}}))),
+    Command<PressDetails>("Details", {kUnknownModel}, kAllModes),
+    Command<PressNetwork>("Network", kAllButKrx8Models, kAllModes),
+    Command<PressNetwork>("NetworkFormatting", kAllButKrx8Models, kAllModes,
                           {.network = {.formatsFlash = true, .formatsPcCard = true}}),
-    Command<UseMenuOnOne>("PhoneFileUpload", kKnownModels, kNormal, Choosing(1)),
-    Command<UseMenuOnOne>("PhoneFileUploadInService", kKrx8Models, {2}, Choosing(1)),
-    Command<UseMenuByKey>("DeleteByMenu", kKnownModels, kNormal, Choosing(2)),
-    Command<UseMenuOnOne>("Move", kKnownModels, kNormal, Choosing(3)),
-    Command<UseMenuOnTwo>("MoveSeveral", kNetworkedModels, kNormal, Choosing(4)),
-    Command<UseMenuOnOne>("FpgaCodeUpload", kKrx8Models, kNormalAndService, Choosing(5)),
-    Command<UseMenuOnOne>("Krx10ImageUpload", {3}, kNormalAndService, Choosing(8)),
-    Command<UseMenuOnOne>("Krx20ImageUpload", {4, 5}, kNormalAndService, Choosing(9)),
-    Command<UseMenuByKey>("SelectAll", kKnownModels, kNormal, Choosing(10)),
+    Command<UseMenuOnOne>("PhoneFileUpload", kAllModels, kNormal, Choosing(1)),
+    Command<UseMenuOnOne>("PhoneFileUploadOutsideNormal", kKrx8Models, kServiceAndMaintenance,
+                          Choosing(1)),
+    Command<UseMenuByKey>("DeleteByMenu", kAllModels, kNormal, Choosing(2)),
+    Command<UseMenuOnOne>("Move", kAllModels, kNormal, Choosing(3)),
+    Command<UseMenuOnTwo>("MoveSeveral", kAllButKrx8Models, kNormal, Choosing(4)),
+    Command<UseMenuOnOne>("FpgaCodeUpload", kKrx8Models, kAllModes, Choosing(5)),
+    Command<UseMenuOnOne>("ApplicationUpload", kKrx8Models, kAllModes, Choosing(6)),
+    Command<UseMenuOnOne>("ApplicationUploadViaRs232", kKrx8Models, kAllModes, Choosing(7)),
+    Command<UseMenuOnOne>("Krx10ImageUpload", {3}, kAllModes, Choosing(8)),
+    Command<UseMenuOnOne>("Krx20ImageUpload", {4, 5}, kAllModes, Choosing(9)),
+    Command<UseMenuByKey>("SelectAll", kAllModels, kNormal, Choosing(10)),
 };
+
+/// Without a state of the connection in between, so that what was enabled stays enabled.
+void RunWithDeviceThatBecomesUnknown(IStage& stage) {
+    RunWithDevice(stage);
+    stage.TellType(kUnknownModel);
+    Arrive(stage);
+}
+
+/// With the unknown model, which comes to its commands in another way, in rows of its own.
+std::vector<Scenario> WithUnknownApart(const std::vector<Scenario>& rows) {
+    std::vector<Scenario> scenarios;
+    for (Scenario row : rows) {
+        const bool isForUnknown = std::erase(row.models, kUnknownModel) > 0;
+        if (!row.models.empty()) {
+            scenarios.push_back(row);
+        }
+        if (isForUnknown) {
+            row.models = {kUnknownModel};
+            row.setUp = RunWithDeviceThatBecomesUnknown;
+            row.becomesUnknown = true;
+            scenarios.push_back(row);
+        }
+    }
+    return scenarios;
+}
+
+const std::vector<Scenario> kCommands = WithUnknownApart(kCommandRows);
 
 simulator::StoredFile InRam(simulator::StoredFile file) {
     file.location = simulator::kInRam;
@@ -184,7 +229,8 @@ bool PollsAtFirst(const simulator::DeviceDescription& device) {
 
 simulator::DeviceDescription MakeDevice(const Scenario& scenario, std::int32_t model,
                                         std::int32_t mode) {
-    simulator::DeviceDescription device = support::HealthyDevice(model);
+    simulator::DeviceDescription device =
+        support::HealthyDevice(scenario.becomesUnknown ? simulator::kKrx20 : model);
     device.mode = mode;
     device.files = {InRam(support::File("alpha.fia", 19, 1, "1.1")), support::File("", 21, 2),
                     InRam(support::File("Version.FIA", 22, 3, "2.5.13")), FileOnPcCard()};

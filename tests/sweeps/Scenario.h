@@ -34,6 +34,10 @@ struct Scenario {
     Answers answers = {};
     /// Of the update package on the workstation; that on the device is 2.5.13.
     const char* packageVersion = "2.5.13";
+    /// The device is updated from a description.
+    bool updates = false;
+    /// The device, a KRX-20 at first, says in the end that it is of a type that nobody knows.
+    bool becomesUnknown = false;
 };
 
 /// How a panel starts and shows its device. Connect comes first.

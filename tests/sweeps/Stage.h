@@ -45,6 +45,8 @@ public:
 
     // The device itself, which no event tells of
     virtual void InsertDevice() = 0;
+    /// From now on the device says that it is of that type.
+    virtual void TellType(std::int32_t type) = 0;
     /// From now on every call that a device answers fails.
     virtual void LoseDevice() = 0;
 

@@ -8,7 +8,7 @@
 namespace sweeps {
 
 CSweep::CSweep(const Scenario& scenario, std::int32_t model, std::int32_t mode)
-    : m_scenario(scenario), m_device(MakeDevice(scenario, model, mode)) {
+    : m_scenario(scenario), m_model(model), m_device(MakeDevice(scenario, model, mode)) {
     ++TheFigures().scenarios;
     CExpectation expected(m_device, m_scenario.packageVersion);
     m_scenario.setUp(expected);
@@ -39,7 +39,7 @@ bool CSweep::DeliversObject(std::size_t call) const {
 }
 
 std::string CSweep::Describe(const Plan& plan) const {
-    std::string text = std::string(m_scenario.name) + ", model " + std::to_string(m_device.type) +
+    std::string text = std::string(m_scenario.name) + ", model " + std::to_string(m_model) +
                        ", mode " + std::to_string(m_device.mode) + ": " + sweeps::Describe(plan);
     const auto name = [&](std::size_t call) {
         if (call <= m_calls.size()) {
@@ -134,6 +134,22 @@ CSweep::Opened CSweep::OpenedWith(const Plan& plan) const {
     expected.Arrange(WithAnswers(plan));
     m_scenario.action(expected);
     return {expected.Boxes(), expected.Dialogs(), expected.BoxAfterFault()};
+}
+
+std::vector<std::size_t> CSweep::OwnCallsWith(const Plan& plan) const {
+    CExpectation expected(m_device, m_scenario.packageVersion);
+    m_scenario.setUp(expected);
+    static_cast<void>(expected.Take());
+    expected.Arrange(WithAnswers(plan));
+    m_scenario.action(expected);
+    const std::size_t calls = expected.Take().calls.size();
+    std::vector<std::size_t> own;
+    for (std::size_t call = 1; call <= calls; ++call) {
+        if (!std::ranges::binary_search(expected.CallsOfRefresh(), call)) {
+            own.push_back(call);
+        }
+    }
+    return own;
 }
 
 Plan CSweep::WithAnswers(Plan plan) const {

@@ -50,6 +50,8 @@ public:
         std::size_t boxAfterFault;
     };
     Opened OpenedWith(const Plan& plan) const;
+    /// The calls in it that belong neither to a refresh nor to a listing.
+    std::vector<std::size_t> OwnCallsWith(const Plan& plan) const;
 
 private:
     struct Pair {
@@ -74,6 +76,7 @@ private:
     void PlayAgain(Pair& pair, const Plan& plan);
 
     const Scenario& m_scenario;
+    const std::int32_t m_model;
     const simulator::DeviceDescription m_device;
     std::vector<std::string_view> m_calls;
     std::vector<std::size_t> m_callsOfRefresh;

@@ -42,7 +42,7 @@ CSweepPanel::CSweepPanel(const simulator::DeviceDescription& description,
     messageService->whileOpen = [this] { OnServiceBoxOpen(); };
     m_writing->answer = [this](const std::string& call) {
         NoteWrite(call);
-        return contract::kSuccess;
+        return call.starts_with("UpdateFromIniFile(") ? m_updateStatus : contract::kSuccess;
     };
     // Here each offer of an update is expected, or a mistake.
     desktop->prompts.AnswerAlways(panel::kSWUpdateInfoTemplate.id, panel::kNoControl);
@@ -67,6 +67,7 @@ void CSweepPanel::Arrange(const Plan& plan, const std::vector<CExpectation::Prom
     m_boxesOpened = 0;
     m_dialogsOpened = 0;
     m_answers = plan.answers.value_or(Answers());
+    m_updateStatus = plan.updateStatus;
     m_intrusion = plan.intrusion;
     if (m_intrusion) {
         Arrange(*m_intrusion);

@@ -51,6 +51,7 @@ public:
     void RaiseMessage(const std::string& text, std::uint32_t done, std::uint32_t total) override;
     void RaiseDeviceEvent3() override { m_device->RaiseEvent3(1, 2); }
     void InsertDevice() override;
+    void TellType(std::int32_t type) override { m_writing->toldType = type; }
     void LoseDevice() override;
     void PressButton(panel::ControlId id) override;
     void SelectRows(const std::vector<int>& rows) override;
@@ -84,6 +85,7 @@ private:
     const std::shared_ptr<CDeviceLoss> m_loss = std::make_shared<CDeviceLoss>();
     std::optional<Intrusion> m_intrusion;
     Answers m_answers;
+    contract::Status m_updateStatus;
     std::size_t m_boxesOpened = 0;
     std::size_t m_dialogsOpened = 0;
     std::size_t m_boxesTaken = 0;

@@ -63,17 +63,31 @@ DialogRows FileRows(const panel::FileDialog& dialog) {
     return rows;
 }
 
-void LeaveOptionUnchosen(const CHeadlessFileDialog& dialog, FileChoice choice) {
-    if (choice == FileChoice::WithoutMethod) {
-        dialog.Options()->SelectChoice(panel::kUploadMethodList, panel::kNoChoice);
-    } else if (choice == FileChoice::WithoutDestination) {
-        dialog.Options()->SelectChoice(panel::kUploadDestinationList, panel::kNoChoice);
+/// The options that are proposed, by number.
+std::pair<std::string, std::string> OptionsRow(const CHeadlessView& options) {
+    return {std::to_string(options.GetSelectedChoice(panel::kUploadMethodList)),
+            std::to_string(options.GetSelectedChoice(panel::kUploadDestinationList))};
+}
+
+void ChooseOptions(CHeadlessView& options, FileChoice choice) {
+    constexpr int kFlashing = 3;
+    const bool leavesMethod = choice == FileChoice::WithoutMethod;
+    const bool leavesDestination = choice == FileChoice::WithoutDestination;
+    options.SelectChoice(panel::kUploadMethodList, leavesMethod ? panel::kNoChoice : kFlashing);
+    options.SelectChoice(panel::kUploadDestinationList, leavesDestination ? panel::kNoChoice : 0);
+    if (choice == FileChoice::UnreadableMethod) {
+        options.LoseChoiceData(panel::kUploadMethodList);
+    } else if (choice == FileChoice::UnreadableDestination) {
+        options.LoseChoiceData(panel::kUploadDestinationList);
     }
 }
 
 std::string PathToName(headless::FileDialogKind kind, FileChoice choice) {
     if (choice == FileChoice::InNoFolder) {
         return PathInNoFolder();
+    }
+    if (choice == FileChoice::WithoutPath) {
+        return "";
     }
     return kind == headless::FileDialogKind::Save ? ReportPath() : kChosenPath;
 }
@@ -84,6 +98,10 @@ void CSweepPanel::Arrange(const CExpectation::Prompt& prompt) {
     using enum CExpectation::Prompt::Kind;
     headless::CPromptQueue& prompts = desktop->prompts;
     const std::int32_t answer = prompt.answer;
+    if (prompt.fails) {
+        prompt.kind == Menu ? prompts.FailMenu(kNoPromptError) : prompts.FailDialog(kNoPromptError);
+        return;
+    }
     switch (prompt.kind) {
     case PlainBox:
         prompts.Answer(answer, [this] { OnBoxOpen(); });
@@ -131,13 +149,20 @@ void CSweepPanel::AnswerNetwork(CHeadlessView& dialog) {
 void CSweepPanel::AnswerFileDialog(CHeadlessFileDialog& dialog) {
     m_mayHaveSaved = true;
     const headless::FileDialogKind kind = desktop->prompts.FileDialogs().back().kind;
-    OnDialogOpen(FileRows(dialog.Dialog()));
+    DialogRows rows = FileRows(dialog.Dialog());
+    CHeadlessView* const options = dialog.Options();
+    if (options) {
+        rows.push_back(OptionsRow(*options));
+    }
+    OnDialogOpen(std::move(rows));
     if (m_answers.file == FileChoice::Cancelled) {
         dialog.Cancel();
     } else if (m_answers.file == FileChoice::Failed) {
         dialog.Fail(12290);
     } else {
-        LeaveOptionUnchosen(dialog, m_answers.file);
+        if (options) {
+            ChooseOptions(*options, m_answers.file);
+        }
         dialog.Accept(PathToName(kind, m_answers.file));
     }
 }

@@ -40,6 +40,13 @@ inline std::vector<Setting> Settings() { return SettingsOf(Scenarios()); }
 
 inline std::vector<Setting> CommandSettings() { return SettingsOf(Commands()); }
 
+/// The commands that update the device from a description.
+inline std::vector<Setting> UpdateSettings() {
+    std::vector<Setting> settings = CommandSettings();
+    std::erase_if(settings, [](const Setting& setting) { return !setting.scenario->updates; });
+    return settings;
+}
+
 /// Without the scenarios that another one contains.
 inline std::vector<Setting> SettingsWithoutRepetition() {
     std::vector<Setting> settings = Settings();

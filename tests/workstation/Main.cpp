@@ -1,3 +1,4 @@
+#include "component/loader/ComponentLibrary.h"
 #include "workstation/Offscreen.h"
 #include "workstation/ToolkitMessages.h"
 
@@ -21,6 +22,9 @@ int main(int argc, char** argv) {
     }
     settings.close();
     qputenv("KRX8_REGISTRY", settings.fileName().toLocal8Bit());
+    if (component::CComponentLibrary(KRX8_COMPONENT).Register().IsFailure()) {
+        return 1;
+    }
     const workstation::COffscreen offscreen;
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -83,6 +83,20 @@ protected:
         return simulator::CDevice::Create(leaving);
     }
 
+    /// Two files, and the first call of that operation fails.
+    static simulator::DeviceDescription FailingDevice(const char* operation) {
+        simulator::DeviceDescription failing = HealthyDevice();
+        simulator::Fault fault;
+        fault.operation = operation;
+        failing.faults.push_back(fault);
+        return failing;
+    }
+    static std::shared_ptr<simulator::CDevice> OtherDevice() {
+        simulator::DeviceDescription other = HealthyDevice(5);
+        other.network.macAddress = "00-00-5E-00-53-99";
+        return simulator::CDevice::Create(other);
+    }
+
     auto Refreshes() const { return m_observer.CountOf("SoftwareInfo.GetBootSwVersion"); }
     template <class Widget = QWidget>
     Widget* Control(int id) const {
@@ -130,9 +144,7 @@ TEST_F(PanelHostTest, DeviceConnectedLaterCostsOneRefresh) {
 
 TEST_F(PanelHostTest, AnotherDeviceCostsOneRefreshAndIsShown) {
     StartWith(MakeDevice(3));
-    simulator::DeviceDescription other = HealthyDevice(5);
-    other.network.macAddress = "00-00-5E-00-53-99";
-    Connect(simulator::CDevice::Create(other));
+    Connect(OtherDevice());
     EXPECT_EQ(Refreshes(), 2);
     EXPECT_EQ(SerialNumber(), "00-00-5E-00-53-99");
     EXPECT_EQ(ListedFiles(), 5);
@@ -261,6 +273,58 @@ TEST_F(PanelHostTest, FailingDeviceIsReportedWithItsDescription) {
                           "    HRESULT 0x80004005 (-2147467259)\n"
                           "    The cable is broken\n"
                           "Answered: OK\n");
+}
+
+TEST_F(PanelHostTest, DeviceAfterAFailedSubscriptionIsShown) {
+    StartWith(simulator::CDevice::Create(FailingDevice("ExtConnectionEvents.Subscribe")));
+    EXPECT_EQ(SerialNumber(), "00-00-5E-00-53-07");
+    Connect(OtherDevice());
+    EXPECT_EQ(Refreshes(), 2);
+    EXPECT_EQ(SerialNumber(), "00-00-5E-00-53-99");
+    EXPECT_EQ(ListedFiles(), 5);
+    EXPECT_THAT(m_boxes, IsEmpty());
+}
+
+TEST_F(PanelHostTest, DeviceAfterAFailedHandOverIsShown) {
+    StartWith(simulator::CDevice::Create(FailingDevice("SubsystemAccess.GetSubsystem")));
+    EXPECT_EQ(SerialNumber(), "");
+    Connect(OtherDevice());
+    EXPECT_EQ(Refreshes(), 1);
+    EXPECT_EQ(SerialNumber(), "00-00-5E-00-53-99");
+    EXPECT_EQ(ListedFiles(), 5);
+    EXPECT_THAT(m_boxes,
+                ElementsAre(HasSubstr("Connecting to KxProgrammingDevice subsystem failed")));
+}
+
+TEST_F(PanelHostTest, LostDeviceThatFailedTheSubscriptionIsShownAgain) {
+    simulator::DeviceDescription failing = FailingDevice("ExtConnectionEvents.Subscribe");
+    failing.loss = simulator::DeviceLoss{"ProgrammingDeviceControl.GetFileListing", 1, {}};
+    StartWith(simulator::CDevice::Create(failing));
+    EXPECT_EQ(ListedFiles(), 0);
+    m_panelHost.Reconnect();
+    ExpectIdle();
+    EXPECT_EQ(Refreshes(), 2);
+    EXPECT_EQ(ListedFiles(), 2);
+}
+
+TEST_F(PanelHostTest, WatchThatFailedIsMadeForTheNextDevice) {
+    simulator::DeviceDescription failing = HealthyDevice();
+    simulator::Fault fault;
+    fault.operation = "ProgrammingDeviceControlEvents.Subscribe";
+    fault.call = 2; // the panel's own subscription is the first
+    failing.faults.push_back(fault);
+    StartWith(simulator::CDevice::Create(failing));
+    const auto other = OtherDevice();
+    Connect(other);
+    other->RaiseMessage("Uploading", 1, 2);
+    EXPECT_THAT(m_observer.m_progress, ElementsAre("Uploading"));
+}
+
+TEST_F(PanelHostTest, MendedConnectionIsHeardOnce) {
+    StartWith(simulator::CDevice::Create(FailingDevice("ExtConnectionEvents.Subscribe")));
+    Connect(OtherDevice());
+    Connect(MakeDevice(3));
+    EXPECT_EQ(Refreshes(), 3);
 }
 
 }

@@ -7,14 +7,18 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 
+#include <filesystem>
 #include <new>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -84,6 +88,16 @@ TEST_F(ProgramTest, UnreadableDeviceIsRefused) {
                 StartsWith("krx8-workstation: " + PathText("device.json") + ": cannot be read: "));
 }
 
+TEST_F(ProgramTest, ComponentThatIsNotRegisteredIsRefusedWithWhatToDo) {
+    const QByteArray registry = qgetenv("KRX8_REGISTRY");
+    qputenv("KRX8_REGISTRY", Path("none.json").toLocal8Bit());
+    ExpectRefusal({"--device", Sample("krx-20"), "--text"},
+                  "QRZ.KRX8Maintenance is not registered in " + PathText("none.json") +
+                      "; register the component with: krx8-register "
+                      "FOLDER/cmn_krx8maintenanceui.so");
+    qputenv("KRX8_REGISTRY", registry);
+}
+
 TEST_F(ProgramTest, RefusalIsAllThereIsAlsoWithoutADisplay) {
     ExpectRefusal({"--device", Path("none"), "--fallback", Path("panel.png")},
                   PathText("none") + ": there is no such folder");
@@ -97,6 +111,48 @@ TEST_F(ProgramTest, MissingRootIsRefused) {
 TEST_F(ProgramTest, LineBreakInARootStaysInOneLine) {
     ExpectRefusal({"--devices", Path("two\nlines")},
                   PathText("two\\nlines") + ": cannot be read: No such file or directory");
+}
+
+TEST_F(ProgramTest, LineBreakInAnArgumentStaysInOneLine) {
+    ExpectRefusal({"--two\nlines"}, "unknown option '--two\\nlines'; --help lists the options");
+    ExpectRefusal({"two\nlines"}, "unexpected argument 'two\\nlines'; --help lists the options");
+}
+
+TEST_F(ProgramTest, LineBreakInTheNameOfASnapshotStaysInOneLine) {
+    const Outcome outcome = Run({"--snapshot", Path("two\nlines.png")});
+    EXPECT_EQ(outcome.output, "The window is drawn in " + PathText("two\\nlines.png") + "\n");
+    EXPECT_TRUE(QFile::exists(Path("two\nlines.png")));
+}
+
+TEST_F(ProgramTest, SnapshotWhoseNameIsNoTextIsWrittenUnderItsOwnName) {
+    const QString command =
+        QString("'%1' --snapshot \"$(printf 'n\\366.png')\"").arg(KRX8_WORKSTATION);
+    EXPECT_EQ(Run({"-c", command}, "/bin/sh").status, 0);
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(m_folder.path().toStdString())) {
+        names.push_back(entry.path().filename().string());
+        // The toolkit, which removes the folder, cannot name it.
+        EXPECT_TRUE(std::filesystem::remove(entry));
+    }
+    EXPECT_THAT(names, ElementsAre("n\366.png"));
+}
+
+TEST_F(ProgramTest, SnapshotReplacesAPictureAlsoThroughALink) {
+    Write(Path("old.png"), "old");
+    ASSERT_TRUE(QFile::link(Path("old.png"), Path("link.png")));
+    EXPECT_EQ(Run({"--snapshot", Path("link.png")}).status, 0);
+    EXPECT_FALSE(QImage(Path("old.png"), "PNG").isNull());
+    EXPECT_TRUE(QFileInfo(Path("link.png")).isSymLink());
+}
+
+TEST_F(ProgramTest, SnapshotDoesNotReplaceWhatIsNoFile) {
+    ASSERT_EQ(Run({Path("pipe")}, "mkfifo").status, 0);
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
+    ExpectRefusal({"--snapshot", Path("pipe")},
+                  PathText("pipe") + ": cannot be written: Operation not supported");
+    ExpectRefusal({"--snapshot", Path("folder")},
+                  PathText("folder") + ": cannot be written: Is a directory");
+    EXPECT_EQ(std::filesystem::status(PathText("pipe")).type(), std::filesystem::file_type::fifo);
 }
 
 TEST_F(ProgramTest, UnwritableSnapshotIsRefused) {
@@ -194,10 +250,10 @@ TEST_F(ProgramTest, FolderWithoutAnAbsolutePathIsRefused) {
               "krx8-workstation: .: has no absolute path: No such file or directory\n");
 }
 
-TEST_F(ProgramTest, TextThatCannotBePrintedIsRefused) {
+TEST_F(ProgramTest, TextThatCannotBePrintedFailsTheProgram) {
     const QString command = QString("'%1' --text > /dev/full").arg(KRX8_WORKSTATION);
     const Outcome outcome = Run({"-c", command}, "/bin/sh");
-    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.errors, "krx8-workstation: cannot write to the standard output: No space "
                               "left on device\n");
 }

@@ -66,7 +66,7 @@ protected:
         m_folder.Write("plain", "code");
     }
 
-    std::string PathOf(const std::string& name) const { return (m_folder.Path() / name).string(); }
+    std::string PathOf(const std::string& name) const { return m_folder.PathOf(name); }
 
     panel::FileDialog WithOptions() {
         return {.optionsTemplate = &kOptionsTemplate, .optionsHandler = &m_options};
@@ -84,6 +84,15 @@ protected:
     void Choose(const std::string& path) {
         m_driver->ExpectFileDialog(
             [path](IFileDialogUser& user) { EXPECT_TRUE(user.Accept(path)); });
+    }
+
+    /// Names a path that is not taken, and gives up.
+    void ChooseInVain(const std::string& path) {
+        m_driver->ExpectFileDialog([this, path](IFileDialogUser& user) {
+            m_driver->ExpectFileRefusal();
+            user.Accept(path);
+            user.Cancel();
+        });
     }
 
     simulator::CTemporaryFolder m_folder;
@@ -128,9 +137,21 @@ TEST_F(FileDialogsTest, FilterWithoutPatternIsShownByItsDescription) {
     Toolkit().OpenFile({.filters = {{"Everything (you have)", ""}}});
 }
 
-TEST_F(FileDialogsTest, NameWithoutExtensionGetsTheDefaultOne) {
-    EXPECT_EQ(Open({.defaultExtension = "Fpga files"}, PathOf("code")),
-              FileOutcome::Accepted(PathOf("code.Fpg")));
+TEST_F(FileDialogsTest, NameWithoutExtensionIsOpenedWithTheDefaultOne) {
+    const panel::FileDialog dialog{.defaultExtension = "Fpga files"};
+    if (m_driver->OpensByCompletedName()) {
+        EXPECT_EQ(Open(dialog, PathOf("code")), FileOutcome::Accepted(PathOf("code.Fpg")));
+        return;
+    }
+    m_driver->ExpectFileDialog([this](IFileDialogUser& user) {
+        m_driver->ExpectBox(1);
+        EXPECT_FALSE(user.Accept(PathOf("code")));
+        EXPECT_TRUE(user.Accept(PathOf("code.Fpg")));
+    });
+    EXPECT_EQ(Toolkit().OpenFile(dialog), FileOutcome::Accepted(PathOf("code.Fpg")));
+}
+
+TEST_F(FileDialogsTest, NameWithoutExtensionIsSavedWithTheDefaultOne) {
     EXPECT_EQ(Save({.defaultExtension = "txt"}, PathOf("report")),
               FileOutcome::Accepted(PathOf("report.txt")));
 }
@@ -150,14 +171,16 @@ TEST_F(FileDialogsTest, PathThatFillsTheBufferIsDelivered) {
     EXPECT_EQ(Open({.pathCapacity = path.size() + 1}, path), FileOutcome::Accepted(path));
 }
 
-TEST_F(FileDialogsTest, PathBeyondTheBufferEndsTheDialogWithItsError) {
+TEST_F(FileDialogsTest, PathBeyondTheBufferIsNotDelivered) {
     const std::string path = PathOf("code.bin");
-    EXPECT_EQ(Open({.pathCapacity = path.size()}, path),
-              FileOutcome::Failed(panel::kFilePathTooLong));
+    ChooseInVain(path);
+    EXPECT_EQ(Toolkit().OpenFile({.pathCapacity = path.size()}).path, "");
+    ChooseInVain(path);
+    EXPECT_EQ(Toolkit().SaveFile({.pathCapacity = path.size()}).path, "");
 }
 
 TEST_F(FileDialogsTest, NonAsciiNameIsDelivered) {
-    const std::string name = "\xC3\x84nderung \xE2\x82\xAC & <b>.bin";
+    const std::string name = "\xC3\x84nderung \xE2\x82\xAC & (b).bin";
     m_folder.Write(name, "code");
     EXPECT_EQ(Open({}, PathOf(name)), FileOutcome::Accepted(PathOf(name)));
 }
@@ -219,7 +242,8 @@ TEST_F(FileDialogsTest, CancelAsksTheOptionsNothing) {
 TEST_F(FileDialogsTest, PathBeyondTheBufferAsksTheOptionsNothing) {
     panel::FileDialog dialog = WithOptions();
     dialog.pathCapacity = 3;
-    EXPECT_EQ(Open(dialog, PathOf("code.bin")), FileOutcome::Failed(panel::kFilePathTooLong));
+    ChooseInVain(PathOf("code.bin"));
+    EXPECT_EQ(Toolkit().OpenFile(dialog).path, "");
     EXPECT_EQ(m_options.events, Events{"init"});
 }
 

@@ -166,9 +166,16 @@ public:
     /// The next prompt is a file dialog: `act` runs while it is shown. A dialog that is open
     /// thereafter is cancelled.
     virtual void ExpectFileDialog(std::function<void(IFileDialogUser&)> act) = 0;
+    /// Where the file dialog itself says why it does not take a path, and stays open, that is what
+    /// comes next, and it is dismissed.
+    virtual void ExpectFileRefusal() = 0;
     /// The boxes shown so far.
     virtual std::vector<ShownBox> Boxes() = 0;
     virtual std::vector<ShownMenu> Menus() = 0;
+
+    /// Whether a file can be opened by a name typed without the default extension. Not in a system
+    /// whose dialog looks for the file before it adds the extension.
+    virtual bool OpensByCompletedName() { return true; }
 
     virtual bool IsWaitCursorShown() = 0;
     virtual bool IsHelpViewerShown() = 0;

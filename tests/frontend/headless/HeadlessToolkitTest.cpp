@@ -104,6 +104,20 @@ TEST_F(HeadlessToolkitTest, UnattendedPromptsAreAnsweredAndNotUnexpected) {
     EXPECT_EQ(Prompts().Boxes().size(), 2u);
 }
 
+TEST_F(HeadlessToolkitTest, PathThatIsTooLongEndsTheFileDialogWithItsError) {
+    Prompts().ChooseFile("D:\\a.fia");
+    EXPECT_EQ(m_toolkit.OpenFile({.pathCapacity = 8}), panel::FileOutcome::Failed(12291));
+    Prompts().ChooseFile("D:\\a.fia");
+    EXPECT_EQ(m_toolkit.OpenFile({.pathCapacity = 9}), panel::FileOutcome::Accepted("D:\\a.fia"));
+}
+
+TEST_F(HeadlessToolkitTest, MadeUpPathIsTakenAsItIs) {
+    Prompts().ChooseFile("D:\\missing.bin");
+    EXPECT_EQ(m_toolkit.OpenFile({}), panel::FileOutcome::Accepted("D:\\missing.bin"));
+    Prompts().ChooseFile("/missing/report.txt");
+    EXPECT_EQ(m_toolkit.SaveFile({}), panel::FileOutcome::Accepted("/missing/report.txt"));
+}
+
 TEST_F(HeadlessToolkitTest, OpenBoxKeepsTheUserFromTheView) {
     CHeadlessView& view = Show(kTemplate);
     bool couldPress = true;

@@ -96,17 +96,30 @@ TEST_F(AddressFieldTest, LettersAndSignsAreRefused) {
     EXPECT_EQ(Shown(), (Texts{"12", "", "", ""}));
 }
 
-TEST_F(AddressFieldTest, NumberAbove255IsCutWhenItsPartIsLeft) {
+TEST_F(AddressFieldTest, NumberAbove255IsCutAndLeft) {
     Type("300");
     EXPECT_EQ(Part(0).text(), "255");
     EXPECT_EQ(FocusedPart(), 1);
 }
 
-TEST_F(AddressFieldTest, NumberAbove255CountsAs255WhileItIsTyped) {
+TEST_F(AddressFieldTest, NumberAbove255ShowsWhatItCountsAsBeforeItsPartIsLeft) {
     Part(3).setFocus();
     Type("999");
-    EXPECT_EQ(Part(3).text(), "999");
+    EXPECT_EQ(FocusedPart(), 3);
+    EXPECT_EQ(Part(3).text(), "255");
     EXPECT_EQ(m_field.GetAddress(), 0x000000FFu);
+}
+
+TEST_F(AddressFieldTest, NumberAbove255IsCutHoweverItCameToBe) {
+    m_field.SetAddress(0x01020319);
+    Part(3).setFocus();
+    Part(3).setCursorPosition(0);
+    Type("9");
+    EXPECT_EQ(Shown(), (Texts{"1", "2", "3", "255"}));
+    Part(1).setFocus();
+    Part(1).selectAll();
+    Paste("256");
+    EXPECT_EQ(Shown(), (Texts{"1", "255", "3", "255"}));
 }
 
 TEST_F(AddressFieldTest, LeadingZerosGoWhenThePartIsLeft) {

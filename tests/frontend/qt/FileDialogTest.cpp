@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTreeView>
 #include <gtest/gtest.h>
 
 namespace qttests {
@@ -75,12 +76,36 @@ TEST_F(FileDialogTest, StartFolderWithBackslashesIsFound) {
     m_toolkit.OpenFile({.startFolder = folder});
 }
 
-TEST_F(FileDialogTest, MissingStartFolderGivesTheCurrentOne) {
-    ExpectDialog([](QFileDialog& dialog) {
-        EXPECT_EQ(FolderOf(dialog), QDir::currentPath().toStdString());
+TEST_F(FileDialogTest, MissingStartFolderGivesTheNearestAboveIt) {
+    ExpectDialog([this](QFileDialog& dialog) {
+        EXPECT_EQ(FolderOf(dialog), m_folder.Path().string());
         dialog.reject();
     });
-    m_toolkit.OpenFile({.startFolder = PathOf("missing")});
+    m_toolkit.OpenFile({.startFolder = PathOf("missing\\Flash")});
+}
+
+TEST_F(FileDialogTest, StartFolderWithNothingButTheRootAboveItGivesTheHomeFolder) {
+    for (const char* folder : {"\\Flash", "C:\\Packages\\Flash"}) {
+        ExpectDialog([](QFileDialog& dialog) {
+            EXPECT_EQ(FolderOf(dialog), QDir::homePath().toStdString());
+            dialog.reject();
+        });
+        m_toolkit.OpenFile({.startFolder = folder});
+    }
+}
+
+TEST_F(FileDialogTest, SizesAndDatesAreShownWhole) {
+    m_folder.Write("a_name_that_is_rather_long_for_a_file.bin", std::string(32'432, 'x'));
+    ExpectDialog([](QFileDialog& dialog) {
+        auto& files = *dialog.findChild<QTreeView*>("treeView");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return files.indexAt(QPoint(5, 5)).isValid(); }));
+        for (int column = 1; column < files.model()->columnCount(); ++column) {
+            const QAbstractItemView& view = files;
+            EXPECT_GE(files.columnWidth(column), view.sizeHintForColumn(column)) << column;
+        }
+        dialog.reject();
+    });
+    m_toolkit.OpenFile({.startFolder = m_folder.Path().string()});
 }
 
 TEST_F(FileDialogTest, ProposedNameIsTakenInTheStartFolder) {
@@ -140,6 +165,57 @@ TEST_F(FileDialogTest, MissingFolderIsSaidAndTheDialogStaysOpen) {
         dialog.reject();
     });
     EXPECT_EQ(m_toolkit.SaveFile({}), FileOutcome::Cancelled());
+}
+
+TEST_F(FileDialogTest, PathThatIsTooLongIsSaidAndTheDialogStaysOpen) {
+    ExpectDialog([this](QFileDialog& dialog) {
+        m_prompts.Expect<QMessageBox>([this, &dialog](QMessageBox& box) {
+            EXPECT_EQ(box.windowTitle(), dialog.windowTitle());
+            EXPECT_EQ(box.text().toStdString(),
+                      PathOf("report.txt") + "\nThe path is too long. Choose a shorter name, or a "
+                                             "folder with a shorter path.");
+            box.accept();
+        });
+        CFileDialogUser user(dialog);
+        EXPECT_FALSE(user.Accept(PathOf("report.txt")));
+        EXPECT_TRUE(user.Accept(PathOf("a.txt")));
+    });
+    EXPECT_EQ(m_toolkit.SaveFile({.pathCapacity = PathOf("report.txt").size()}),
+              FileOutcome::Accepted(PathOf("a.txt")));
+}
+
+TEST_F(FileDialogTest, PathThatIsTooLongWithItsExtensionIsRefused) {
+    ExpectDialog([this](QFileDialog& dialog) {
+        m_prompts.Expect<QMessageBox>([](QMessageBox& box) { box.accept(); });
+        EXPECT_FALSE(CFileDialogUser(dialog).Accept(PathOf("report")));
+        dialog.reject();
+    });
+    EXPECT_EQ(m_toolkit.SaveFile(
+                  {.defaultExtension = "txt", .pathCapacity = PathOf("report.txt").size()}),
+              FileOutcome::Cancelled());
+}
+
+TEST_F(FileDialogTest, PathThatIsTooLongIsShownByItsEnds) {
+    ExpectDialog([this](QFileDialog& dialog) {
+        m_prompts.Expect<QMessageBox>([&dialog](QMessageBox& box) {
+            EXPECT_LE(box.width(), dialog.width() + 200);
+            EXPECT_TRUE(box.text().contains("xxx.txt\nThe path is too long."));
+            box.accept();
+        });
+        EXPECT_FALSE(CFileDialogUser(dialog).Accept(PathOf(std::string(300, 'x') + ".txt")));
+        dialog.reject();
+    });
+    EXPECT_EQ(m_toolkit.SaveFile({}), FileOutcome::Cancelled());
+}
+
+TEST_F(FileDialogTest, FolderWithATooLongPathIsEnteredAllTheSame) {
+    m_folder.Write("sub/code.bin", "code");
+    ExpectDialog([this](QFileDialog& dialog) {
+        EXPECT_FALSE(CFileDialogUser(dialog).Accept(PathOf("sub")));
+        EXPECT_EQ(FolderOf(dialog), PathOf("sub"));
+        dialog.reject();
+    });
+    EXPECT_EQ(m_toolkit.OpenFile({.pathCapacity = 3}), FileOutcome::Cancelled());
 }
 
 TEST_F(FileDialogTest, FolderIsEnteredRatherThanTaken) {

@@ -4,7 +4,10 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlockFormat>
 #include <QTextBrowser>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <gtest/gtest.h>
 
 namespace qttests {
@@ -54,6 +57,17 @@ TEST_F(HelpWindowTest, OpensAtItsTopic) {
 TEST_F(HelpWindowTest, MarkupIsShownAsWhatItMeans) {
     Show(2);
     EXPECT_EQ(Text().simplified(), "Second A B one two");
+}
+
+TEST_F(HelpWindowTest, ParagraphsStandApartAndItemsTogether) {
+    Write("# 1 First\n\nOne\n\nTwo\n\n- a\n- b\n\nThree\n");
+    Show(1);
+    const auto gapAfter = [this](const char* text) {
+        return Browser().document()->find(text).blockFormat().bottomMargin();
+    };
+    EXPECT_GT(gapAfter("One"), 0);
+    EXPECT_EQ(gapAfter("a"), 0);
+    EXPECT_GT(gapAfter("b"), 0);
 }
 
 TEST_F(HelpWindowTest, LinkOpensItsTopicAndBackReturns) {
@@ -109,11 +123,33 @@ TEST_F(HelpWindowTest, ChangedFileIsReadAgain) {
 TEST_F(HelpWindowTest, MissingFileIsNamedAndFoundLater) {
     ASSERT_TRUE(QFile::remove(m_folder.filePath("panel.hlp")));
     Show(1);
-    EXPECT_EQ(Text(), "The help file was not found. It was looked for here:\n\n" +
+    EXPECT_EQ(Text(), "The help file was not found. It was looked for here:\n" +
                           QString::fromStdString(Path()));
     Write(kHelp);
     Show(1);
     EXPECT_TRUE(Text().startsWith("First"));
+}
+
+TEST_F(HelpWindowTest, MissingFileIsNamedOnEveryPage) {
+    Show(1);
+    FollowLink();
+    ASSERT_TRUE(QFile::remove(m_folder.filePath("panel.hlp")));
+    Show(3);
+    for (const char* way : {"help-first", "help-back", "help-back", "help-forward"}) {
+        QTest::mouseClick(&Button(way), Qt::LeftButton);
+        EXPECT_EQ(Text(), "The help file was not found. It was looked for here:\n" +
+                              QString::fromStdString(Path()))
+            << way;
+    }
+    Write(kHelp);
+    Show(3);
+    EXPECT_TRUE(Text().startsWith("Third"));
+}
+
+TEST_F(HelpWindowTest, PathThatLooksLikeMarkupIsShownAsItIs) {
+    m_window.ShowTopic(R"(/none/*a*_b_[c](topic:1)<b>&amp;`d`\e~~f~~/x.hlp)", 1, nullptr);
+    EXPECT_EQ(Text(), "The help file was not found. It was looked for here:\n"
+                      R"(/none/*a*_b_[c](topic:1)<b>&amp;`d`\e~~f~~/x.hlp)");
 }
 
 TEST_F(HelpWindowTest, EscapeClosesTheWindow) {

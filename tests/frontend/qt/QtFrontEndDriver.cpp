@@ -133,6 +133,10 @@ void CQtFrontEndDriver::ExpectFileDialog(std::function<void(conformance::IFileDi
     });
 }
 
+void CQtFrontEndDriver::ExpectFileRefusal() {
+    m_prompts.Expect<QMessageBox>([](QMessageBox& box) { box.accept(); });
+}
+
 bool CQtFrontEndDriver::IsWaitCursorShown() {
     const QCursor* const cursor = QGuiApplication::overrideCursor();
     return cursor && cursor->shape() == Qt::WaitCursor;

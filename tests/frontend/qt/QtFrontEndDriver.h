@@ -25,6 +25,7 @@ public:
     void ExpectDialog(std::function<void(conformance::IViewUser&)> act) override;
     void ExpectMenu(int command, std::function<void()> whileOpen) override;
     void ExpectFileDialog(std::function<void(conformance::IFileDialogUser&)> act) override;
+    void ExpectFileRefusal() override;
     std::vector<conformance::ShownBox> Boxes() override { return m_boxes; }
     std::vector<conformance::ShownMenu> Menus() override { return m_menus; }
 

@@ -155,9 +155,51 @@ TEST_F(QtToolkitTest, HelpOverADialogBelongsToIt) {
         dialog.done(0);
     });
     m_toolkit.RunDialog(kTemplate, m_handler, panel::Owner::None);
-    EXPECT_EQ(HelpWindows().size(), 0);
     m_toolkit.ShowHelp("missing", 1, panel::Owner::None);
     EXPECT_EQ(HelpWindows().size(), 1);
+}
+
+TEST_F(QtToolkitTest, HelpOverADialogStaysForTheDialogsOwner) {
+    QWidget window;
+    const auto view = m_toolkit.CreateView(kTemplate, &window, m_handler);
+    window.show();
+    m_prompts.Expect<QDialog>([this](QDialog& dialog) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        m_toolkit.ShowHelp("/no-such-folder/panel.hlp", 1, panel::Owner::ActiveWindow);
+        HelpWindows().front()->setGeometry(20, 30, 300, 200);
+        dialog.done(0);
+    });
+    m_toolkit.RunDialog(kTemplate, m_handler, panel::Owner::PanelParent);
+    ASSERT_EQ(HelpWindows().size(), 1);
+    EXPECT_TRUE(HelpWindows().front()->isVisible());
+    EXPECT_EQ(HelpWindows().front()->parentWidget(), &window);
+    EXPECT_EQ(HelpWindows().front()->geometry(), QRect(20, 30, 300, 200));
+    EXPECT_TRUE(HelpText().contains("/no-such-folder/panel.hlp"));
+}
+
+TEST_F(QtToolkitTest, HelpClosedOverADialogStaysClosed) {
+    m_prompts.Expect<QDialog>([this](QDialog& dialog) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        m_toolkit.ShowHelp("missing", 1, panel::Owner::ActiveWindow);
+        HelpWindows().front()->reject();
+        dialog.done(0);
+    });
+    m_toolkit.RunDialog(kTemplate, m_handler, panel::Owner::None);
+    ASSERT_EQ(HelpWindows().size(), 1);
+    EXPECT_FALSE(HelpWindows().front()->isVisible());
+}
+
+TEST_F(QtToolkitTest, HelpOverADialogGoesWithTheWindowThatBothBelongTo) {
+    auto window = std::make_unique<QWidget>();
+    const auto view = m_toolkit.CreateView(kTemplate, window.get(), m_handler);
+    window->show();
+    m_prompts.Expect<QDialog>([&](QDialog& dialog) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        m_toolkit.ShowHelp("missing", 1, panel::Owner::ActiveWindow);
+        window.reset();
+    });
+    m_toolkit.RunDialog(kTemplate, m_handler, panel::Owner::PanelParent);
+    EXPECT_EQ(HelpWindows().size(), 0);
 }
 
 TEST_F(QtToolkitTest, PathSeparatorIsThatOfThePathsDelivered) {

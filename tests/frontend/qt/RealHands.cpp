@@ -3,10 +3,23 @@
 #include <QProcess>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
 
 namespace qttests {
 
 namespace {
+
+xcb_atom_t AtomOf(xcb_connection_t& server, const char* name) {
+    const auto cookie =
+        xcb_intern_atom(&server, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
+        xcb_intern_atom_reply(&server, cookie, nullptr), &std::free);
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
 
 // Without waiting for the move, which never ends where the pointer stands already; the server takes
 // what follows in order anyway.
@@ -28,6 +41,23 @@ void CRealHands::ClickHolding(const QString& key, const QWidget& widget, QPoint 
 void CRealHands::PressKey(const QString& key) const { Run({"key", key}); }
 
 void CRealHands::Type(const QString& text) const { Run({"type", text}); }
+
+// As a client of its own: xdotool has no such request, and destroys the window instead.
+void CRealHands::RequestClose(const QWidget& window) const {
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> server(
+        xcb_connect(nullptr, nullptr), &xcb_disconnect);
+    ASSERT_EQ(xcb_connection_has_error(server.get()), 0);
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = static_cast<xcb_window_t>(window.winId());
+    event.type = AtomOf(*server, "WM_PROTOCOLS");
+    event.data.data32[0] = AtomOf(*server, "WM_DELETE_WINDOW");
+    event.data.data32[1] = XCB_CURRENT_TIME;
+    xcb_send_event(server.get(), 0, event.window, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char*>(&event));
+    EXPECT_GT(xcb_flush(server.get()), 0);
+}
 
 void CRealHands::Activate(QWidget& window) const {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));

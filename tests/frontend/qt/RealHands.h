@@ -21,6 +21,8 @@ public:
     void PressKey(const QString& key) const;
     /// Types letters, digits and signs.
     void Type(const QString& text) const;
+    /// Asks a window to close, as window managers do for Alt+F4 and for the button in its title.
+    void RequestClose(const QWidget& window) const;
     /// Makes a window the active one, as a click on its title would if there were a window manager.
     void Activate(QWidget& window) const;
 

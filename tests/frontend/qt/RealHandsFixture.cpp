@@ -45,6 +45,7 @@ void RealHandsTest::Connect() {
         device.files.push_back(support::File("file" + std::to_string(number) + ".fg", 22, number));
     }
     device.selfTests[contract::SelfTest::Ethernet] = 1;
+    device.pcCard = simulator::PcCard{32000000};
     m_host.InsertDevice(simulator::CDevice::Create(device));
     m_host.RaiseConnectionState(contract::kSuccess, contract::kConnectionDeviceReady);
     ASSERT_EQ(List().GetRowCount(), kFiles);

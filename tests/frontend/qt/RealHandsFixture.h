@@ -20,7 +20,7 @@ using Rows = std::vector<int>;
 
 /// The panel of a connected KRX-20 with kFiles files in a window of its own, with a user's hands.
 /// What would change the device is only noted. From the fourth on files are named after their row,
-/// which is also their number ("file3.fg", type 22).
+/// which is also their number ("file3.fg", type 22). All are in its Flash; it has a memory card.
 class RealHandsTest : public testing::Test {
 protected:
     static constexpr int kFiles = 60;

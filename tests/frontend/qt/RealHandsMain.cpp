@@ -12,6 +12,8 @@ int main(int argc, char** argv) {
     const qttests::CVirtualDisplay display;
     qputenv("DISPLAY", display.GetName().c_str());
     qputenv("QT_QPA_PLATFORM", "xcb");
+    // Which shows dates in another way than a program without a locale would.
+    qputenv("LC_ALL", "de_DE.UTF-8");
     const qttests::CTestApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -4,8 +4,11 @@ namespace {
 
 using namespace panel;
 using namespace support;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+const auto kFault = contract::Status::FromBits(0x8007001F);
 
 class DeviceResetTest : public CommandFixture {
 protected:
@@ -63,13 +66,12 @@ TEST_F(DeviceResetTest, EventDuringTheResetStartsNoRefresh) {
 
 TEST_F(DeviceResetTest, FailureIsReportedWithoutRefresh) {
     const std::string version = Field(kHardwareField);
-    FailCall("RequestMode(4)", contract::Status::FromBits(0x8007001F), "device hangs");
+    FailCall("RequestMode(4)", kFault, "device hangs");
     bool isAllowed = false;
     messageService->whileOpen = [&] { isAllowed = State().refreshAllowed; };
     Reset();
-    EXPECT_THAT(TakeMessages(),
-                ElementsAre(ErrorReport("Resetting prommer.", "Prommer Maintenance",
-                                        contract::Status::FromBits(0x8007001F), "device hangs")));
+    EXPECT_THAT(TakeMessages(), ElementsAre(ErrorReport("Resetting prommer.", "Prommer Maintenance",
+                                                        kFault, "device hangs")));
     EXPECT_TRUE(isAllowed);
     EXPECT_EQ(Listings(), 1u);
     EXPECT_EQ(Field(kHardwareField), version);
@@ -78,11 +80,30 @@ TEST_F(DeviceResetTest, FailureIsReportedWithoutRefresh) {
 }
 
 TEST_F(DeviceResetTest, ResetRunsAlthoughPollingCannotBeSuspended) {
-    faults->Fail({1, "ProductInformation.GetProductDetection"});
+    faults->Fail({1, "ProductInformation.GetProductDetection"}, {kFault, "no answer"});
     Reset();
     EXPECT_THAT(device->calls, ElementsAre("RequestMode(4)"));
     EXPECT_EQ(Listings(), 2u);
-    EXPECT_EQ(TakeMessages().size(), 2u);
+    EXPECT_THAT(
+        TakeMessages(),
+        ElementsAre(ErrorReport("IProductDetection getting failed",
+                                "Product Detection disabler initializing", kFault, "no answer"),
+                    ErrorReport("Query of IProductDetectionControl interface failed",
+                                "Enabling Product Detection",
+                                contract::Status::FromBits(0x80004002))));
+}
+
+TEST_F(DeviceResetTest, PollingThatCannotBeResumedIsReportedAfterTheRefresh) {
+    faults->Fail({2, "ProductDetectionControl.SetPollingEnabled"}, {kFault, "no answer"});
+    std::vector<std::string> log;
+    messageService->whileOpen = [&] { log = Log(); };
+    Reset();
+    EXPECT_THAT(device->calls, ElementsAre("RequestMode(4)"));
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(ErrorReport("Enabling of product polling failed",
+                                        "Enabling Product Detection", kFault, "no answer")));
+    EXPECT_THAT(log, Contains("File listing updated"));
+    EXPECT_FALSE(host.PollingEnabled());
 }
 
 TEST_F(DeviceResetTest, ResetWithoutControlIsReportedAsInvalidPointer) {

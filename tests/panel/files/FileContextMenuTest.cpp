@@ -135,6 +135,22 @@ TEST_F(FileContextMenuTest, ChoiceFromAMenuForOtherFilesIsVoid) {
     EXPECT_THAT(device->calls, IsEmpty());
 }
 
+TEST_F(FileContextMenuTest, ListRefilledBeforeTheMenuOpensMakesTheChoiceVoidToo) {
+    Start(WithCard(simulator::kKrx20));
+    SelectRows({1});
+    faults->RunBefore({1, kGetStorages}, [this] { RaiseState(7); });
+    desktop->prompts.AnswerMenu(4);
+    View().RightClick(kFileList, 1);
+    EXPECT_THAT(device->calls, IsEmpty());
+}
+
+TEST_F(FileContextMenuTest, ChoiceThatConcernsNoSelectionOutlivesTheList) {
+    Start();
+    desktop->prompts.AnswerMenu(10, [this] { RaiseState(7); });
+    View().RightClick(kFileList, 1);
+    EXPECT_THAT(View().GetSelectedRows(kFileList), ElementsAre(0, 1, 2));
+}
+
 TEST_F(FileContextMenuTest, PanelReleasedWhileTheMenuIsOpenEndsQuietly) {
     Start();
     desktop->prompts.AnswerMenu(0, [this] {

@@ -15,6 +15,11 @@ protected:
         rooms->files.UpdateFileListing();
     }
 
+    void Select(const std::vector<int>& rows) {
+        for (const int row : rows) {
+            View().SelectRow(kFileList, row, true);
+        }
+    }
     bool Delete(std::int32_t answer) {
         messageService->answers.push_back(answer);
         return rooms->deletion.DeleteSelectedFiles();
@@ -30,6 +35,27 @@ TEST_F(FileDeletionResultTest, NothingToDoAndADeclinedQuestionAreNoFailure) {
 TEST_F(FileDeletionResultTest, FailingCallIsAFailure) {
     faults->Fail({1, "ProgrammingDeviceControl.DeleteFile"});
     EXPECT_FALSE(Delete(6));
+}
+
+TEST_F(FileDeletionResultTest, FailureOfTheFirstTypeIsOneAlthoughTheOthersSucceed) {
+    simulator::DeviceDescription description = HealthyDevice(simulator::kKrx20);
+    description.files.push_back(File("other.bin", 20, 8));
+    host.InsertDevice(simulator::CDevice::Create(description));
+    rooms->files.UpdateFileListing();
+    Select({0, 1, 2});
+    faults->Fail({1, "ProgrammingDeviceControl.DeleteFile"});
+    EXPECT_FALSE(Delete(6));
+    ASSERT_EQ(RowCount(), 2);
+    EXPECT_EQ(Row(0).front(), "version.fia");
+    EXPECT_EQ(Row(1).front(), "other.bin");
+}
+
+TEST_F(FileDeletionResultTest, FailureToDeleteEveryFileIsOne) {
+    Select({0, 1, 2});
+    faults->Fail({1, "ProgrammingDeviceControl.DeleteFile"});
+    EXPECT_FALSE(Delete(6));
+    EXPECT_EQ(faults->Calls("ProgrammingDeviceControl.DeleteFile"), 1u);
+    EXPECT_EQ(RowCount(), 3);
 }
 
 }

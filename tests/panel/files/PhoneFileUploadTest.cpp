@@ -96,6 +96,15 @@ TEST_F(PhoneFileUploadTest, HelpRequestOpensTheTopicOfTheList) {
     EXPECT_EQ(desktop->helps.front().context, 267u);
 }
 
+TEST_F(PhoneFileUploadTest, HelpRequestOutsideTheListsOpensTheTopicOfTheDialog) {
+    Upload([](CHeadlessFileDialog& dialog) {
+        dialog.Options()->SetFocus(kNoControl);
+        dialog.Options()->RequestHelp();
+    });
+    ASSERT_EQ(desktop->helps.size(), 1u);
+    EXPECT_EQ(desktop->helps.front().context, 1116u);
+}
+
 TEST_F(PhoneFileUploadTest, ChoiceIsUsedAndProposedNextTime) {
     Upload([](CHeadlessFileDialog& dialog) {
         dialog.Options()->Choose(265, "Force");

@@ -1,14 +1,9 @@
-#include "tests/support/CommandFixture.h"
-
-#include <filesystem>
-#include <fstream>
-#include <sstream>
+#include "tests/panel/info/MaintenanceReportFixture.h"
 
 namespace {
 
 using namespace panel;
 using namespace support;
-using contract::Status;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -16,55 +11,7 @@ using testing::Not;
 
 namespace fs = std::filesystem;
 
-constexpr const char* kCaption = "Generate info report.";
-
-class MaintenanceReportTest : public CommandFixture {
-protected:
-    void SetUp() override {
-        m_folder = fs::temp_directory_path() /
-                   ("report-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
-        fs::remove_all(m_folder);
-        fs::create_directory(m_folder);
-    }
-    void TearDown() override {
-        fs::permissions(m_folder, fs::perms::owner_all);
-        fs::remove_all(m_folder);
-        CommandFixture::TearDown();
-    }
-
-    /// A device of that type with every version set.
-    static simulator::DeviceDescription Device(std::int32_t type) {
-        simulator::DeviceDescription description = HealthyDevice(type);
-        description.software.security = "sec 1";
-        description.software.fpgaDriver = "fdrv 2";
-        description.software.mmcrDriver = "mmcr 3";
-        description.software.usbDeviceFunctionDriver = "udf 4";
-        description.software.usbHostControllerDriver = "uhc 5";
-        description.software.bootLoader = "loader 6";
-        description.software.serviceFpga = "sfpga 7";
-        return description;
-    }
-
-    std::string Path(const std::string& name = "report.txt") const {
-        return (m_folder / name).string();
-    }
-    static std::string Content(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        return (std::ostringstream() << file.rdbuf()).str();
-    }
-    void Report(const std::string& path) {
-        desktop->prompts.ChooseFile(path);
-        ASSERT_TRUE(PressButton(kReportButton));
-    }
-    static Shown Saved(const std::string& path) {
-        return {"Information about the Programming Device is saved.\n\nThe full path to the report "
-                "file is:\n" +
-                    path,
-                kCaption, 0x40, 0, ""};
-    }
-
-    fs::path m_folder;
-};
+class MaintenanceReportTest : public MaintenanceReportFixture {};
 
 TEST_F(MaintenanceReportTest, Krx20ReportHoldsItsLines) {
     Start(Device(simulator::kKrx20));
@@ -191,19 +138,10 @@ TEST_F(MaintenanceReportTest, ExistingReportIsReplacedWithoutAQuestion) {
     EXPECT_THAT(Content(Path()), Not(HasSubstr("xx")));
 }
 
-TEST_F(MaintenanceReportTest, FileThatCannotBeOpenedIsReported) {
+TEST_F(MaintenanceReportTest, DescriptionLeftMeanwhileIsToldWithThePath) {
     Start(Device(simulator::kKrx8));
-    Report(Path("missing/report.txt"));
-    EXPECT_THAT(TakeMessages(),
-                ElementsAre(Shown{"Error in printing report to file.", kCaption, 0x10, 0, ""}));
-}
-
-TEST_F(MaintenanceReportTest, WriteErrorsAreIgnored) {
-    ASSERT_TRUE(fs::exists("/dev/full")) << "this system has no device that is always full";
-    fs::create_symlink("/dev/full", Path("full.txt"));
-    Start(Device(simulator::kKrx8));
-    Report(Path("full.txt"));
-    EXPECT_THAT(TakeMessages(), ElementsAre(Saved(Path("full.txt"))));
+    ReportWithErrorInfo(Path(), "the share is slow");
+    EXPECT_THAT(TakeMessages(), ElementsAre(Saved(Path(), "the share is slow")));
 }
 
 TEST_F(MaintenanceReportTest, LongPathIsCutInTheMessage) {
@@ -239,74 +177,6 @@ TEST_F(MaintenanceReportTest, WaitCursorShowsAllTheWhile) {
     PressButton(kReportButton);
     EXPECT_EQ(TakeMessages().size(), 1u);
     EXPECT_EQ(desktop->cursorDepth, 0);
-}
-
-// Failures
-
-struct FailureCase {
-    std::int32_t type;
-    const char* operation;
-    std::size_t number; ///< of the calls of that operation, the connecting included
-    const char* text;
-    bool deliversObject = false;
-};
-
-void PrintTo(const FailureCase& value, std::ostream* out) { *out << value.operation; }
-
-class FailingReportTest : public MaintenanceReportTest,
-                          public testing::WithParamInterface<FailureCase> {};
-
-TEST_P(FailingReportTest, FailureIsShownAndNoFileAskedFor) {
-    Start(Device(GetParam().type));
-    const auto wrappers = interception.LiveWrappers();
-    faults->Fail({GetParam().number, GetParam().operation},
-                 {Status::FromBits(0x8007001F), "no answer"});
-    PressButton(kReportButton);
-    EXPECT_THAT(TakeMessages(),
-                ElementsAre(ErrorReport(GetParam().text, kCaption, Status::FromBits(0x8007001F),
-                                        "no answer")));
-    EXPECT_THAT(desktop->prompts.FileDialogs(), IsEmpty());
-    EXPECT_EQ(interception.LiveWrappers(), wrappers);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Calls, FailingReportTest,
-    testing::Values(FailureCase{1, "ProgrammingDeviceControl.GetSoftwareInfo", 2,
-                                "Software Info request failed"},
-                    FailureCase{1, "SoftwareInfo.GetSecuritySwVersion", 1,
-                                "Security Software version retrieving failed"},
-                    FailureCase{3, "SoftwareInfo.GetFpgaDriverVersion", 1,
-                                "FPGA driver version retrieving failed"},
-                    FailureCase{3, "SoftwareInfo.GetMmcrDriverVersion", 1,
-                                "MMCR driver version retrieving failed"},
-                    FailureCase{3, "SoftwareInfo.GetUsbDeviceFunctionDriverVersion", 1,
-                                "USB Device Function driver version retrieving failed"},
-                    FailureCase{3, "SoftwareInfo.GetUsbHostControllerDriverVersion", 1,
-                                "USB Host Controller driver version retrieving failed"},
-                    FailureCase{3, "SoftwareInfo.GetMmcrDriverVersion", 2,
-                                "ZTWCDC driver version retrieving failed"},
-                    FailureCase{4, "SoftwareInfo.QueryKrx20SwInfo", 1,
-                                "IKrx20SwInfo instance query failed"},
-                    FailureCase{4, "Krx20SwInfo.GetTypeInfo", 1, "Type Info retrieving failed"},
-                    FailureCase{4, "Krx20SwInfo.GetBootLoaderVersion", 1,
-                                "Boot Loader version retrieving failed"},
-                    FailureCase{4, "Krx20SwInfo.GetServiceFpgaVersion", 1,
-                                "Service Mode FPGA code version retrieving failed"}));
-
-TEST_F(MaintenanceReportTest, NullObjectsCountAsFailures) {
-    Start(Device(simulator::kKrx20));
-    faults->DeliverNull({2, "ProgrammingDeviceControl.GetSoftwareInfo"});
-    PressButton(kReportButton);
-    faults->DeliverNull({1, "SoftwareInfo.QueryKrx20SwInfo"});
-    PressButton(kReportButton);
-    faults->DeliverNull({1, "Krx20SwInfo.GetTypeInfo"});
-    PressButton(kReportButton);
-    EXPECT_THAT(TakeMessages(), ElementsAre(ErrorReport("Software Info request failed", kCaption,
-                                                        Status::FromBits(0x80004003)),
-                                            ErrorReport("IKrx20SwInfo instance query failed",
-                                                        kCaption, Status::FromBits(0x80004002)),
-                                            ErrorReport("Type Info retrieving failed", kCaption,
-                                                        Status::FromBits(0x80004003))));
 }
 
 }

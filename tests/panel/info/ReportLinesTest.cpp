@@ -64,12 +64,19 @@ TEST(ReportLinesTest, HeaderIsCutTo79Bytes) {
     EXPECT_EQ(text.substr(0, text.find('\r')), std::string(79, 'H'));
 }
 
-TEST(ReportLinesTest, DateOrTimeOfMoreThan19BytesIsLeftOut) {
+TEST(ReportLinesTest, DateOrTimeOfMoreThan19CharactersIsLeftOut) {
     const std::string nineteen(19, '1');
     const std::string twenty(20, '2');
     EXPECT_NE(ReportText({}, "", {nineteen, twenty}).find("DATE: " + nineteen + "\tTIME: \r\n"),
               std::string::npos);
     EXPECT_NE(ReportText({}, "", {twenty, nineteen}).find("DATE: \tTIME: " + nineteen + "\r\n"),
+              std::string::npos);
+}
+
+TEST(ReportLinesTest, CharactersOfADateCountNotItsBytes) {
+    const std::string native = "২০/১১/২০২৬";
+    ASSERT_GT(native.size(), 19u);
+    EXPECT_NE(ReportText({}, "", {native, "14:05"}).find("DATE: " + native + "\t"),
               std::string::npos);
 }
 

@@ -114,6 +114,18 @@ TEST_F(KRX10ConfTest, DescriptionIsLimitedTo110Characters) {
     EXPECT_EQ(choice.values.description, std::string(110, 'd'));
 }
 
+TEST_F(KRX10ConfTest, CharactersOfTwoBytesCountAsOne) {
+    std::string typed;
+    for (int count = 0; count < 110; ++count) {
+        typed += "\u0416";
+    }
+    Show(Values(true), [&](CHeadlessView& dialog) {
+        dialog.TypeText(249, typed + "\u0416");
+        dialog.Press(1);
+    });
+    EXPECT_EQ(choice.values.description, typed);
+}
+
 TEST_F(KRX10ConfTest, CancelAndEscapeChangeNothing) {
     const auto change = [](CHeadlessView& dialog) {
         dialog.TypeText(249, "new name");

@@ -182,6 +182,17 @@ TEST_F(RegUpdateTest, PackageFolderOf232CharactersIsTheLongest) {
     EXPECT_EQ(Prompts().FileDialogs().size(), 1u);
 }
 
+TEST_F(RegUpdateTest, PackageFolderTooLongToReadOpensTheDialogAsWithoutOne) {
+    PutText("FlashDir", std::string(259, 'p'));
+    EXPECT_EQ(BrowseInPackageFolder(), std::nullopt);
+    EXPECT_THAT(Prompts().FileDialogs(), IsEmpty());
+    PutText("FlashDir", std::string(260, 'p'));
+    Prompts().CancelFileDialog();
+    EXPECT_EQ(BrowseInPackageFolder(), std::nullopt);
+    ASSERT_EQ(Prompts().FileDialogs().size(), 1u);
+    EXPECT_EQ(Prompts().FileDialogs().front().dialog.startFolder, "\\Flash");
+}
+
 TEST_F(RegUpdateTest, EmptyFilterShowsNoDialog) {
     EXPECT_EQ(settings.BrowseForOpenFile("", "ini", false), std::nullopt);
     EXPECT_THAT(Prompts().FileDialogs(), IsEmpty());

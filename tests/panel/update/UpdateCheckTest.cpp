@@ -105,7 +105,10 @@ TEST_F(UpdateCheckTest, VersionFileIsFoundWhateverItsCase) {
 
 TEST_F(UpdateCheckTest, PackageVersionIsReadUpTo80Characters) {
     SetPackageVersion("1." + std::string(78, '0') + "9.5");
-    AnswerPrompt(kNoButton);
+    desktop->prompts.AnswerDialog([](CHeadlessView& dialog) {
+        EXPECT_EQ(dialog.GetText(241), "001.000");
+        dialog.Press(kNoButton);
+    });
     Connect(DeviceWithoutPackage());
     EXPECT_EQ(Prompts(), 1u);
     EXPECT_THAT(device->calls, IsEmpty());

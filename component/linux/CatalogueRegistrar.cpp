@@ -1,0 +1,77 @@
+#include "component/linux/CatalogueRegistrar.h"
+
+#include "frontend/registry/Catalogue.h"
+#include "panel/registration/GuidText.h"
+
+#include <nlohmann/json.hpp>
+
+#include <array>
+#include <cstdio>
+
+namespace component {
+
+using contract::Status;
+using panel::RegistryStep;
+using registry::Settings;
+
+namespace {
+
+// The registry's error numbers become statuses as on Windows (HRESULT_FROM_WIN32 of winerror.h).
+Status FromErrorNumber(int error) {
+    return error == 0 ? contract::kSuccess
+                      : Status::FromBits(0x80070000u | static_cast<std::uint32_t>(error));
+}
+
+void RemoveKey(Settings& settings, const std::string& key) {
+    for (auto entry = settings.begin(); entry != settings.end();) {
+        const std::string& path = entry.key();
+        const bool isBelow = path == key || path.starts_with(key + "/");
+        entry = isBelow ? settings.erase(entry) : std::next(entry);
+    }
+}
+
+void CreateKey(Settings& settings, const std::string& key) {
+    if (!settings.contains(key)) {
+        settings[key] = Settings::object();
+    }
+}
+
+void Carry(Settings& settings, const RegistryStep& step) {
+    const std::string key = registry::CatalogueKey(step.key);
+    switch (step.kind) {
+    case RegistryStep::Kind::RemoveKey:
+        RemoveKey(settings, key);
+        break;
+    case RegistryStep::Kind::CreateKey:
+        CreateKey(settings, key);
+        break;
+    case RegistryStep::Kind::WriteText:
+        CreateKey(settings, key);
+        settings[key][step.name] = step.text;
+        break;
+    }
+}
+
+}
+
+Status CCatalogueRegistrar::Apply(std::span<const RegistryStep> steps) {
+    return FromErrorNumber(m_file.Change([&](Settings& settings) {
+        for (const RegistryStep& step : steps) {
+            Carry(settings, step);
+        }
+    }));
+}
+
+// As the manager of component categories of Windows keeps them: the description is a value named
+// after the language in hexadecimal.
+Status CCatalogueRegistrar::RegisterCategory(const contract::Guid& identifier, std::uint32_t locale,
+                                             std::string_view description) {
+    std::array<char, 9> language;
+    std::snprintf(language.data(), language.size(), "%x", static_cast<unsigned>(locale));
+    const RegistryStep step{RegistryStep::Kind::WriteText,
+                            "Component Categories\\" + panel::FormatGuid(identifier),
+                            language.data(), std::string(description)};
+    return Apply({&step, 1});
+}
+
+}

@@ -1,0 +1,80 @@
+// What the library exports; see contract/panel/PanelFactory.h.
+
+#include "component/linux/CatalogueRegistrar.h"
+#include "component/linux/PanelFactory.h"
+#include "contract/ErrorInfo.h"
+#include "frontend/qt/ComponentFolder.h"
+#include "frontend/registry/FileRegistry.h"
+#include "panel/registration/ComponentIdentity.h"
+#include "panel/registration/RegistrationScript.h"
+
+#include <exception>
+#include <new>
+
+namespace component {
+
+namespace {
+
+using contract::Status;
+
+/// Out of memory (E_OUTOFMEMORY).
+constexpr Status kOutOfMemory = Status::FromBits(0x8007000E);
+
+CModuleUse& Module() {
+    static CModuleUse module;
+    return module;
+}
+
+// An exception that left the library would meet frames that do not expect it.
+template <class Operation>
+std::int32_t Guarded(Operation operation) noexcept {
+    try {
+        return operation().Code();
+    } catch (const std::bad_alloc&) {
+        return kOutOfMemory.Code();
+    } catch (const std::exception& exception) {
+        contract::SetErrorInfo(exception.what());
+        return contract::kUnspecifiedFailure.Code();
+    }
+}
+
+CCatalogueRegistrar MakeRegistrar() {
+    return {registry::FindRegistryFile(), [](const std::string&) {}};
+}
+
+}
+
+}
+
+#define KRX8_EXPORT extern "C" __attribute__((visibility("default")))
+
+KRX8_EXPORT std::int32_t DllRegisterServer() noexcept {
+    return component::Guarded([] {
+        auto registrar = component::MakeRegistrar();
+        return panel::RegisterComponent(registrar, panel::kRegistrationScript,
+                                        qt::FindComponentFile());
+    });
+}
+
+KRX8_EXPORT std::int32_t DllUnregisterServer() noexcept {
+    return component::Guarded([] {
+        auto registrar = component::MakeRegistrar();
+        return panel::UnregisterComponent(registrar, panel::kRegistrationScript);
+    });
+}
+
+KRX8_EXPORT std::int32_t
+DllGetClassObject(const contract::Guid& classIdentifier,
+                  std::shared_ptr<contract::IPanelFactory>& factory) noexcept {
+    return component::Guarded([&] {
+        if (classIdentifier != panel::kMaintenanceClass) {
+            return contract::kClassNotAvailable;
+        }
+        factory = std::make_shared<component::CPanelFactory>(component::Module());
+        return contract::kSuccess;
+    });
+}
+
+KRX8_EXPORT std::int32_t DllCanUnloadNow() noexcept {
+    return (component::Module().IsInUse() ? contract::kStillInUse : contract::kSuccess).Code();
+}

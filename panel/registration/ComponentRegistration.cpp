@@ -1,0 +1,39 @@
+#include "panel/registration/ComponentRegistration.h"
+
+#include "panel/control/Utf8.h"
+
+namespace panel {
+
+using contract::Status;
+
+Status RegisterComponent(IRegistrar& registrar, std::string_view script,
+                         const std::string& module) {
+    const auto root = ParseRegistryScript(script);
+    if (!root) {
+        return contract::kUnspecifiedFailure;
+    }
+    Status status = registrar.Apply(RegistrationSteps(*root, module));
+    if (status.IsSuccess()) {
+        status = registrar.RegisterTypeLibrary();
+    }
+    if (status.IsFailure()) {
+        return status;
+    }
+    for (const ComponentCategory& category : ComponentCategories()) {
+        // One that cannot be registered is no reason to go without the others, or the component.
+        static_cast<void>(registrar.RegisterCategory(
+            category.identifier, kCategoryLocale,
+            CutToUtf16Units(category.description, kLongestCategoryDescription)));
+    }
+    return contract::kSuccess;
+}
+
+Status UnregisterComponent(IRegistrar& registrar, std::string_view script) {
+    const auto root = ParseRegistryScript(script);
+    const Status status =
+        root ? registrar.Apply(UnregistrationSteps(*root)) : contract::kUnspecifiedFailure;
+    const Status ofTypeLibrary = registrar.UnregisterTypeLibrary();
+    return status.IsFailure() ? status : ofTypeLibrary;
+}
+
+}
