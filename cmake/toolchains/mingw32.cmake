@@ -1,0 +1,3 @@
+# Windows programs, 32-bit, made by Debian's mingw-w64.
+set(KRX8_MINGW i686-w64-mingw32)
+include(${CMAKE_CURRENT_LIST_DIR}/Mingw.cmake)

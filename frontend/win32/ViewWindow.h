@@ -1,0 +1,73 @@
+#pragma once
+
+#include "frontend/win32/ControlTable.h"
+#include "frontend/win32/CursorStack.h"
+#include "frontend/win32/FocusMemory.h"
+#include "panel/control/DialogHandler.h"
+
+#include <memory>
+#include <optional>
+
+namespace win32 {
+
+/// The window of a view: turns the messages of a dialog made from a template into notifications of
+/// its handler. Shared by the view and the system's window: the view may end inside its own
+/// notification, and then the controls still have to finish handling their messages; the window may
+/// end with its parent, and then the view is left without one.
+class CViewWindow final : public std::enable_shared_from_this<CViewWindow> {
+public:
+    /// Joins a dialog that has just been made.
+    static std::shared_ptr<CViewWindow> Attach(const panel::DialogTemplate& dialogTemplate,
+                                               HWND dialog, panel::IDialogHandler& handler,
+                                               std::shared_ptr<const CCursorStack> cursors);
+
+    /// Null once it has ended.
+    HWND Get() const { return m_window; }
+    CControlTable& Controls() { return m_controls; }
+    CFocusMemory& Focus() { return m_focus; }
+
+    /// The handler hears nothing more.
+    void Cut() { m_handler = nullptr; }
+    /// Ends the window now, or, inside one of its own notifications, after that.
+    void Destroy();
+
+    /// Cancel is a command though no button sent it.
+    void AcceptCancel() { m_acceptsCancel = true; }
+
+private:
+    CViewWindow(const panel::DialogTemplate& dialogTemplate, HWND dialog,
+                panel::IDialogHandler& handler, std::shared_ptr<const CCursorStack> cursors);
+
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                      UINT_PTR identifier, DWORD_PTR reference);
+    /// The answer to a message that the dialog itself is not to see.
+    std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+    bool IsCommand(WPARAM wParam) const;
+    void HandleNotification(const NMHDR& notification);
+    void HandleListKey(panel::ControlId list, std::uint16_t virtualKey);
+    void HandleHelp(const HELPINFO& request);
+    void ReportSize(panel::Size size);
+
+    template <class... Parameters, class... Arguments>
+    void Notify(void (panel::IDialogHandler::*event)(Parameters...), Arguments... arguments) {
+        if (m_handler) {
+            ++m_notifications;
+            (m_handler->*event)(arguments...);
+            --m_notifications;
+        }
+    }
+
+    HWND m_window;
+    CControlTable m_controls;
+    CFocusMemory m_focus;
+    panel::IDialogHandler* m_handler;
+    std::shared_ptr<const CCursorStack> m_cursors;
+    panel::Size m_reportedSize;
+    int m_notifications = 0;
+    bool m_acceptsCancel = false;
+};
+
+panel::Size ClientSizeOf(HWND window);
+
+}

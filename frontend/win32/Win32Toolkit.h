@@ -1,0 +1,56 @@
+#pragma once
+
+#include "frontend/win32/CursorStack.h"
+#include "frontend/win32/SystemRegistry.h"
+#include "panel/control/FileDialog.h"
+#include "panel/control/PopupMenu.h"
+#include "panel/control/Toolkit.h"
+#include "panel/control/View.h"
+
+namespace win32 {
+
+class CHelpWindow;
+class CWin32View;
+
+/// The toolkit made of the system's own controls and dialogs. Its thread is a single-threaded
+/// apartment with a message loop, which hands the keys of the view's window to IsDialogMessage.
+class CWin32Toolkit final : public panel::IToolkit {
+public:
+    CWin32Toolkit();
+    ~CWin32Toolkit() override;
+
+    /// `nativeParent` is an HWND.
+    std::unique_ptr<panel::IView> CreateView(const panel::DialogTemplate& dialogTemplate,
+                                             void* nativeParent,
+                                             panel::IDialogHandler& handler) override;
+    panel::DialogOutcome RunDialog(const panel::DialogTemplate& dialogTemplate,
+                                   panel::IDialogHandler& handler, panel::Owner owner) override;
+    std::int32_t ShowBox(const std::string& text, const std::string& caption,
+                         std::uint32_t style) override;
+    std::unique_ptr<panel::IPopupMenu> CreatePopupMenu(int& error) override;
+    panel::FileOutcome OpenFile(const panel::FileDialog& dialog) override;
+    panel::FileOutcome SaveFile(const panel::FileDialog& dialog) override;
+    char GetPathSeparator() const override { return '\\'; }
+    panel::LocalTime GetLocalTime() const override;
+    panel::IRegistry& Registry() override { return m_registry; }
+    void PushWaitCursor() override;
+    void PopCursor() override;
+    /// One window, used again.
+    void ShowHelp(const std::string& file, std::uint32_t context, panel::Owner owner) override;
+    std::string GetComponentFolder() const override;
+    panel::FontMetrics MeasureFont() const override;
+    /// To the debugger.
+    void Trace(const std::string& line) override;
+
+private:
+    /// The top-level window, or null when there is none.
+    HWND FindOwner(panel::Owner owner) const;
+
+    CSystemRegistry m_registry;
+    std::shared_ptr<CCursorStack> m_cursors = std::make_shared<CCursorStack>();
+    HWND m_panelWindow = nullptr;
+    std::unique_ptr<CHelpWindow> m_help;
+    int m_waitCursors = 0;
+};
+
+}

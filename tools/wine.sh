@@ -1,0 +1,96 @@
+#!/usr/bin/env bash
+# Runs a Windows program under Wine without any display: tools/wine.sh --help says more.
+set -u
+
+print_help() {
+    cat <<'HELP'
+Usage: tools/wine.sh PREFIX [--result FILE] PROGRAM [ARGUMENT]...
+       tools/wine.sh PREFIX --stop
+
+Runs PROGRAM in the Wine installation in the folder PREFIX, which is made when it is missing,
+and ends with its exit status: 124 when it runs longer than KRX8_WINE_SECONDS (300), 5 when
+it crashes. With --result also with status 1 when the program does not write FILE, as one that
+dies before its end would not.
+
+--stop ends what runs in PREFIX.
+HELP
+}
+
+say() { echo "wine.sh: $*" >&2; }
+
+# A crash ends the program instead of starting a debugger; nothing offers to install parts of Wine.
+prepare_environment() {
+    WINEPREFIX=$(realpath -m "$1")
+    export WINEPREFIX WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
+    export WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe=d"
+    unset DISPLAY
+}
+
+make_prefix() {
+    [[ -e $WINEPREFIX/.ready ]] && return
+    rm -rf "$WINEPREFIX"
+    mkdir -p "$WINEPREFIX"
+    local no_display='HKCU\Software\Wine\Drivers'
+    wineboot -i && wine reg add "$no_display" /v Graphics /d null /f && wineserver -w &&
+        touch "$WINEPREFIX/.ready"
+}
+
+# Wine's services start with the first program, hold on to its output and end with the last one.
+# A program that waits in the background keeps them away from the output of those that matter.
+start_keeper() {
+    local file=$WINEPREFIX/keeper
+    [[ -e $file ]] && kill -0 "$(<"$file")" 2>/dev/null && return
+    setsid bash -c 'sleep 900 | wine cmd /q' &
+    echo $! >"$file"
+    # The services are up when another program has run.
+    wine cmd /c exit
+}
+
+stop() {
+    [[ -d $WINEPREFIX ]] || return 0
+    local file=$WINEPREFIX/keeper
+    [[ -e $file ]] && kill -- "-$(<"$file")" 2>/dev/null
+    rm -f "$file"
+    wineserver -k
+    return 0
+}
+
+# What must happen once happens once, however many start at the same time.
+prepare() {
+    mkdir -p "$(dirname "$WINEPREFIX")"
+    exec 9>"$WINEPREFIX.lock"
+    flock 9
+    { make_prefix && start_keeper; } >"$WINEPREFIX.log" 2>&1 </dev/null 9>&- || {
+        say "cannot prepare Wine in $WINEPREFIX; see $WINEPREFIX.log"
+        exit 2
+    }
+    exec 9>&-
+}
+
+run() {
+    local result='' status
+    if [[ $1 == --result ]]; then
+        result=$2
+        shift 2
+        rm -f "$result"
+    fi
+    timeout --kill-after=10 "${KRX8_WINE_SECONDS:-300}" wine "$@" </dev/null
+    status=$?
+    ((status == 124)) && say "$1 did not end in time"
+    if [[ -n $result && ! -s $result ]]; then
+        say "$1 has left no result in $result; its status was $status"
+        return $((status == 0 ? 1 : status))
+    fi
+    return "$status"
+}
+
+[[ ${1:-} == --help ]] && { print_help; exit 0; }
+(($# >= 2)) || { print_help >&2; exit 2; }
+prepare_environment "$1"
+shift
+if [[ $1 == --stop ]]; then
+    stop
+    exit
+fi
+prepare
+run "$@"
