@@ -5,7 +5,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 program=$(basename "$0")
 
 # Debian 12 package names.
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev nlohmann-json3-dev libinih-dev
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev nlohmann-json3-dev libsimpleini-dev
                 fonts-dejavu-core)
 test_packages=(libgtest-dev libgmock-dev libqt6test6 libxcb1-dev xvfb xdotool)
 # To make the programs for Windows, and to run them.

@@ -2,36 +2,22 @@
 
 #include "simulator/folder/Utf8.h"
 
-#include <ini.h>
+#include <SimpleIni.h>
 
 #include <algorithm>
-#include <cstring>
+#include <utility>
 
 namespace simulator {
 
 namespace {
 
-constexpr const char* kSyntaxMistake = "is neither a section, a \"key = value\" nor a comment";
+constexpr std::size_t kLongestLine = 198;
+constexpr std::string_view kSpaces = " \t\v\f\r";
 
-/// The text as the library reads it, line by line. The library tells its handler no line, so that
-/// they are counted here; each is handed over whole, which the library does not see to itself.
-struct Reading {
-    std::string_view rest;
-    const IniVisitor& visit;
-    std::size_t line = 0;
-    std::optional<IniMistake> mistake = std::nullopt;
-
-    void Refuse(const std::string& reason) {
-        if (!mistake) {
-            mistake = {line, reason};
-        }
-    }
-};
-
-/// Why a line cannot be read, with its end; empty when it can.
-std::string ReasonAgainst(std::string_view line, std::size_t roomBytes) {
-    if (line.size() + 1 > roomBytes) {
-        return "is longer than " + std::to_string(roomBytes - 2) + " bytes";
+/// Why a line cannot be read; empty when it can.
+std::string ReasonAgainst(std::string_view line) {
+    if (line.size() > kLongestLine) {
+        return "is longer than " + std::to_string(kLongestLine) + " bytes";
     }
     if (!IsUtf8(line)) {
         return "is not UTF-8";
@@ -39,54 +25,92 @@ std::string ReasonAgainst(std::string_view line, std::size_t roomBytes) {
     return line.find('\0') == line.npos ? "" : "holds a zero byte";
 }
 
-/// The library takes a line that begins with any of these for a further value of the key above it.
-std::string_view WithoutIndentation(std::string_view line) {
-    return line.substr(std::min(line.find_first_not_of(" \t\v\f\r"), line.size()));
+/// The library would take these for a part of the value.
+std::string_view WithoutRemark(std::string_view line) {
+    std::size_t space = 0;
+    while ((space = line.find_first_of(kSpaces, space)) != line.npos) {
+        if (line.substr(++space).starts_with(';')) {
+            return line.substr(0, space);
+        }
+    }
+    return line;
 }
 
-char* ReadLine(char* buffer, int size, void* stream) {
-    auto& reading = *static_cast<Reading*>(stream);
-    if (reading.mistake || reading.rest.empty()) {
-        return nullptr;
-    }
-    ++reading.line;
-    const auto end = std::min(reading.rest.find('\n'), reading.rest.size() - 1) + 1;
-    const auto line = reading.rest.substr(0, end);
-    if (auto reason = ReasonAgainst(line, static_cast<std::size_t>(size)); !reason.empty()) {
-        reading.Refuse(reason);
-        return nullptr;
-    }
-    const auto text = WithoutIndentation(line);
-    std::memcpy(buffer, text.data(), text.size());
-    buffer[text.size()] = '\0';
-    reading.rest.remove_prefix(line.size());
-    return buffer;
+std::string_view Trimmed(std::string_view line) {
+    line.remove_prefix(std::min(line.find_first_not_of(kSpaces), line.size()));
+    return line.substr(0, line.find_last_not_of(kSpaces) + 1);
 }
 
-int HandleEntry(void* user, const char* section, const char* key, const char* value) {
-    auto& reading = *static_cast<Reading*>(user);
-    if (reading.mistake) {
-        return 0;
+bool SaysNothing(std::string_view text) {
+    return text.empty() || text.front() == ';' || text.front() == '#';
+}
+
+/// The library passes over what it does not understand and tells no lines, so that it is given the
+/// text line by line.
+class CReading {
+public:
+    explicit CReading(const IniVisitor& visit) : m_visit(visit) {}
+
+    /// What is wrong with the next line; empty when it is good.
+    std::string Read(std::string_view line) {
+        if (auto reason = ReasonAgainst(line); !reason.empty()) {
+            return reason;
+        }
+        const auto text = Trimmed(WithoutRemark(line));
+        return SaysNothing(text) ? "" : ReadStatement(text);
     }
-    if (auto reason = reading.visit({section, key, value}); !reason.empty()) {
-        reading.Refuse(reason);
-        return 0;
+
+private:
+    using Ini = CSimpleIniCaseA;
+
+    std::string ReadStatement(std::string_view text) {
+        constexpr bool kIsUtf8 = true;
+        Ini ini(kIsUtf8);
+        Ini::TNamesDepend sections;
+        Ini::TNamesDepend keys;
+        // The library would end the line at a carriage return.
+        if (text.find('\r') == text.npos && ini.LoadData(text.data(), text.size()) == SI_OK) {
+            ini.GetAllSections(sections);
+        }
+        if (sections.empty()) {
+            return kSyntaxMistake;
+        }
+        const auto* section = sections.front().pItem;
+        ini.GetAllKeys(section, keys);
+        if (keys.empty()) {
+            m_section = section;
+            return "";
+        }
+        const auto* key = keys.front().pItem;
+        return m_visit({m_section, key, ini.GetValue(section, key)});
     }
-    return 1;
+
+    static constexpr const char* kSyntaxMistake =
+        "is neither a section, a \"key = value\" nor a comment";
+
+    const IniVisitor& m_visit;
+    std::string m_section;
+};
+
+/// Some editors put a byte order mark before a text.
+std::string_view WithoutMark(std::string_view text) {
+    constexpr std::string_view kMark = SI_UTF8_SIGNATURE;
+    return text.starts_with(kMark) ? text.substr(kMark.size()) : text;
 }
 
 }
 
 std::optional<IniMistake> ReadIni(std::string_view text, const IniVisitor& visit) {
-    Reading reading{text, visit};
-    const auto line = ini_parse_stream(ReadLine, &reading, HandleEntry, &reading);
-    // The library reads on behind a mistake of the text, and tells the first one at the end.
-    const bool isEarlier =
-        !reading.mistake || static_cast<std::size_t>(line) < reading.mistake->line;
-    if (line > 0 && isEarlier) {
-        return IniMistake{static_cast<std::size_t>(line), kSyntaxMistake};
+    CReading reading(visit);
+    auto rest = WithoutMark(text);
+    for (std::size_t line = 1; !rest.empty(); ++line) {
+        const auto end = std::min(rest.find('\n'), rest.size());
+        if (auto reason = reading.Read(rest.substr(0, end)); !reason.empty()) {
+            return IniMistake{line, std::move(reason)};
+        }
+        rest.remove_prefix(std::min(end + 1, rest.size()));
     }
-    return reading.mistake;
+    return std::nullopt;
 }
 
 }

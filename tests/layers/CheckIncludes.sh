@@ -33,7 +33,7 @@ declare -A libraries=(
     [frontend/headless]=""
     [frontend/help]=""
     [frontend/registry]="nlohmann/json.hpp nlohmann/json_fwd.hpp fcntl.h sys/file.h sys/stat.h sys/types.h unistd.h"
-    [simulator]="nlohmann/json.hpp nlohmann/json_fwd.hpp ini.h dirent.h fcntl.h sys/file.h sys/stat.h sys/types.h unistd.h"
+    [simulator]="nlohmann/json.hpp nlohmann/json_fwd.hpp SimpleIni.h dirent.h fcntl.h sys/file.h sys/stat.h sys/types.h unistd.h"
 )
 
 standard=" algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv

@@ -52,6 +52,16 @@ TEST_F(IniUpdateTest, IndentedLinesAreReadAsOthers) {
     EXPECT_EQ(FileNamed("version.fia").version, "5.2.0");
 }
 
+TEST_F(IniUpdateTest, CommentsBehindAStatementAreLeftOut) {
+    Connect(SmallDevice(kKrx20));
+    EXPECT_EQ(Update("\xEF\xBB\xBF# c\n[package] ; c\r\nname = a;b\t;c\r\nversion = 5.2.0 ;c ;d\n"
+                     "[common] ;[KRX-8]\nfile = a_2nd.fia ;, RAM\n;file = sub/b_alg.fg\n"),
+              contract::kSuccess);
+    EXPECT_EQ(m_log->events[0], "message Updating to a;b 5.2.0 0/0");
+    EXPECT_EQ(Names(), (NameList{"a_2nd.fia", "version.fia"}));
+    EXPECT_EQ(FileNamed("a_2nd.fia").location, 2);
+}
+
 TEST_F(IniUpdateTest, UpdateReplacesWhatIsThere) {
     auto description = SmallDevice(kKrx20);
     description.files = {{"VERSION.FIA", 21, 9, "1.0", 5, kInRam, 0, ""},
@@ -213,6 +223,11 @@ TEST_F(IniUpdateTest, MistakesAreToldWithTheirLine) {
                   ", line 2: is neither a section, a \"key = value\" nor a comment");
     ExpectMistake("[package]\nversion = 1\n\n  more of it\n",
                   ", line 4: is neither a section, a \"key = value\" nor a comment");
+    ExpectMistake("[package]\nversion ; = 1\n",
+                  ", line 2: is neither a section, a \"key = value\" nor a comment");
+    ExpectMistake("[package]\nversion = 1\rname = x\n",
+                  ", line 2: is neither a section, a \"key = value\" nor a comment");
+    ExpectMistake("[package]\nVersion = 1\n", ", line 2: has the unknown key \"Version\"");
     ExpectMistake("[common]\nfile =\n", ", line 2: names no file");
     ExpectMistake("[common]\nfile = sub/\n", ", line 2: names no file");
     ExpectMistake("[common]\nfile = Version.fia\n",
@@ -232,6 +247,8 @@ TEST_F(IniUpdateTest, LinesThatCannotBeReadAreToldWithTheirLine) {
     ExpectMistake(std::string("[package]\nname = a\0b\n", 22), ", line 2: holds a zero byte");
     ExpectMistake("[package]\nname = " + std::string(192, 'n') + "\n",
                   ", line 2: is longer than 198 bytes");
+    ExpectMistake("[package]\nname = " + std::string(191, 'n') + "\nversion\n",
+                  ", line 3: is neither a section, a \"key = value\" nor a comment");
 }
 
 /// The packages that come with the project, on copies of the sample devices.
