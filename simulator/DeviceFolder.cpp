@@ -4,6 +4,7 @@
 #include "simulator/folder/DescriptionNames.h"
 #include "simulator/folder/DescriptionReader.h"
 #include "simulator/folder/FolderStore.h"
+#include "simulator/folder/SystemError.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -22,7 +23,7 @@ using Path = std::filesystem::path;
 /// A million files take some 150 MB.
 constexpr std::uintmax_t kLargestDescriptionBytes = 256u << 20;
 
-std::string LastSystemError() { return std::error_code(errno, std::generic_category()).message(); }
+std::string LastSystemError() { return MessageOf({errno, std::generic_category()}); }
 
 [[noreturn]] void RefuseAsUnreadable(const Path& path, const std::string& reason) {
     throw DescriptionError{path, 0, "cannot be read: " + reason};
@@ -35,7 +36,7 @@ void ExpectDeviceFolder(const Path& folder) {
         throw DescriptionError{folder, 0, "there is no such folder"};
     }
     if (error) {
-        RefuseAsUnreadable(folder, error.message());
+        RefuseAsUnreadable(folder, MessageOf(error));
     }
     if (!std::filesystem::is_directory(status)) {
         throw DescriptionError{folder, 0, "is not a folder"};
@@ -45,7 +46,7 @@ void ExpectDeviceFolder(const Path& folder) {
         throw DescriptionError{folder, 0, "is not a device: there is no device.json in it"};
     }
     if (error) {
-        RefuseAsUnreadable(folder / kDescriptionName, error.message());
+        RefuseAsUnreadable(folder / kDescriptionName, MessageOf(error));
     }
 }
 
@@ -53,7 +54,7 @@ std::string ReadText(const Path& path) {
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);
     if (error) {
-        RefuseAsUnreadable(path, error.message());
+        RefuseAsUnreadable(path, MessageOf(error));
     }
     if (size > kLargestDescriptionBytes) {
         throw DescriptionError{path, 0, "is larger than 256 MiB, which no description is"};

@@ -6,6 +6,7 @@
 #include "simulator/device/VersionText.h"
 #include "simulator/folder/DescriptionNames.h"
 #include "simulator/folder/MessageText.h"
+#include "simulator/folder/SystemPath.h"
 
 #include <iterator>
 #include <map>
@@ -101,7 +102,7 @@ Outcome ExpectModel(const CSourceFile& source, const Header& header, CodeKind ki
         return FailAsWrong(source, "for " + QuoteForMessage(models) + ", not for " +
                                        std::string(ModelName(deviceType)));
     }
-    const auto extension = std::filesystem::path(source.Name()).extension().string();
+    const auto extension = TextOfPath(PathOf(source.Name()).extension());
     if (kind != CodeKind::Image || IsSameName(extension, ImageExtension(deviceType))) {
         return std::nullopt;
     }
@@ -152,7 +153,7 @@ std::string VersionOf(const CSourceFile& source, const Header& header) {
     if (auto version = TextOf(header, "version"); !version.empty()) {
         return version;
     }
-    const auto stem = std::filesystem::path(source.Name()).stem().string();
+    const auto stem = TextOfPath(PathOf(source.Name()).stem());
     const std::string version(LastVersionIn(stem));
     return version.empty() ? kVersionWithoutAny : version;
 }

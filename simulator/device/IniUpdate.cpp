@@ -6,6 +6,7 @@
 #include "simulator/device/StartMode.h"
 #include "simulator/device/UpdateDescription.h"
 #include "simulator/folder/MessageText.h"
+#include "simulator/folder/SystemPath.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -70,7 +71,7 @@ private:
     }
 
     Outcome Load(const UpdateEntry& entry) {
-        const auto path = m_folder / entry.path;
+        const auto path = m_folder / PathOf(entry.path).make_preferred();
         if (auto failure = ExpectInFolder(path)) {
             return failure;
         }
@@ -97,11 +98,11 @@ private:
     /// The description's own paths stay in its folder; a symbolic link in it might not.
     Outcome ExpectInFolder(const Path& path) const {
         std::error_code error;
-        const auto folder = std::filesystem::weakly_canonical(m_folder, error);
-        const auto file = std::filesystem::weakly_canonical(path, error);
+        const auto folder = ResolvePath(m_folder, error);
+        const auto file = ResolvePath(path, error);
         const auto [end, ignored] =
             std::mismatch(folder.begin(), folder.end(), file.begin(), file.end());
-        if (!error && end == folder.end()) {
+        if (!folder.empty() && !error && end == folder.end()) {
             return std::nullopt;
         }
         return Failure{kAccessDenied, "it lies outside the folder of the description"};

@@ -1,6 +1,8 @@
 #include "simulator/device/SourceFile.h"
 
 #include "simulator/folder/MessageText.h"
+#include "simulator/folder/SystemError.h"
+#include "simulator/folder/SystemPath.h"
 #include "simulator/folder/Utf8.h"
 
 #include <algorithm>
@@ -24,7 +26,7 @@ constexpr std::size_t kMostChunks = 100;
 
 std::string QuotedPath(const Path& path) {
     // Descriptions are UTF-8, whatever bytes a path of this system holds.
-    return IsUtf8(path.string()) ? QuoteForMessage(path.string()) : "a file";
+    return IsUtf8(TextOfPath(path)) ? QuotePath(path) : "a file";
 }
 
 Failure FailAsMissing(const Path& path) {
@@ -38,7 +40,7 @@ Failure FailToRead(const Path& path, const std::error_code& error) {
     }
     const bool isDenied = error == std::errc::permission_denied;
     return {isDenied ? kAccessDenied : kReadFault,
-            QuotedPath(path) + " cannot be read: " + error.message()};
+            QuotedPath(path) + " cannot be read: " + MessageOf(error)};
 }
 
 std::error_code LastError() { return {errno, std::generic_category()}; }
@@ -88,25 +90,26 @@ Failure FailAsChanged(const Path& path) {
 
 Path LocalPath(const std::string& path) {
     std::error_code ignored;
-    // A backslash is a letter here, and a file may be called so.
-    if (std::filesystem::exists(path, ignored)) {
-        return path;
+    auto local = PathOf(path);
+    // Where a backslash is a letter, a file may be called so.
+    if (!std::filesystem::exists(local, ignored)) {
+        auto text = path;
+        std::replace(text.begin(), text.end(), '\\', '/');
+        local = PathOf(text);
     }
-    auto local = path;
-    std::replace(local.begin(), local.end(), '\\', '/');
-    return local;
+    return local.make_preferred();
 }
 
 CSourceFile::CSourceFile(Path path, std::int32_t sizeBytes, std::string head)
     : m_path(std::move(path)),
-      m_name(m_path.filename().string()),
+      m_name(TextOfPath(m_path.filename())),
       m_sizeBytes(sizeBytes),
       m_head(std::move(head)) {}
 
 std::string CSourceFile::QuotedName() const { return QuoteForMessage(m_name); }
 
 std::variant<CSourceFile, Failure> CSourceFile::Open(const Path& path) {
-    if (auto failure = ExpectGoodName(path.filename().string())) {
+    if (auto failure = ExpectGoodName(TextOfPath(path.filename()))) {
         return *failure;
     }
     if (auto failure = ExpectPlainFile(path)) {

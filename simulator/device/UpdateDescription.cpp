@@ -5,6 +5,8 @@
 #include "simulator/device/VersionText.h"
 #include "simulator/folder/DescriptionNames.h"
 #include "simulator/folder/MessageText.h"
+#include "simulator/folder/SystemError.h"
+#include "simulator/folder/SystemPath.h"
 #include "simulator/folder/Utf8.h"
 
 #include <algorithm>
@@ -30,7 +32,7 @@ constexpr std::pair<std::string_view, Kind> kKinds[] = {{"file", Kind::PhoneFile
                                                         {"image", Kind::Image}};
 
 std::string QuotedPath(const Path& path) {
-    return IsUtf8(path.string()) ? QuoteForMessage(path.string()) : "the update description";
+    return IsUtf8(TextOfPath(path)) ? QuotePath(path) : "the update description";
 }
 
 Failure FailToRead(const Path& path, const std::string& reason,
@@ -40,7 +42,7 @@ Failure FailToRead(const Path& path, const std::string& reason,
 
 Failure FailToRead(const Path& path, const std::error_code& error) {
     const bool isDenied = error == std::errc::permission_denied;
-    return FailToRead(path, error.message(), isDenied ? kAccessDenied : kReadFault);
+    return FailToRead(path, MessageOf(error), isDenied ? kAccessDenied : kReadFault);
 }
 
 std::variant<std::string, Failure> ReadText(const Path& path) {
@@ -152,14 +154,14 @@ private:
     }
 
     static std::string ReasonAgainst(const UpdateEntry& file) {
-        const Path path(file.path);
+        const auto path = PathOf(file.path);
         if (!path.has_filename()) {
             return "names no file";
         }
         if (IsAbsolute(file.path) || HasStepUp(path)) {
             return "names a file outside the folder of the description";
         }
-        if (IsSameName(path.filename().string(), kVersionFileName)) {
+        if (IsSameName(TextOfPath(path.filename()), kVersionFileName)) {
             return "names \"version.fia\", which the update itself makes";
         }
         return "";

@@ -13,12 +13,6 @@ namespace simulator {
 inline constexpr const char* kDescriptionName = "device.json";
 inline constexpr const char* kContentFolderName = "files";
 
-/// What a stored file may be called in the folder `files`.
-inline bool IsPlainFileName(std::string_view name) {
-    return !name.empty() && name != "." && name != ".." &&
-           name.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
-}
-
 inline constexpr NamedValue kModels[] = {{"KRX-8", kKrx8},
                                          {"KRX-8C", kKrx8c},
                                          {"KRX-10", kKrx10},

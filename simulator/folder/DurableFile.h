@@ -1,11 +1,11 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <string_view>
 #include <system_error>
 
-/// Writing that survives the end of the process, or of the power, at any instant.
+/// Writing that survives the end of the process, or of the power, at any instant. Each system does
+/// it in its own way.
 namespace simulator {
 
 /// Puts `bytes` into `file`, in place of what is there: `file` is never seen half written. They are
@@ -16,22 +16,5 @@ std::error_code WriteDurably(const std::filesystem::path& file, const std::files
 
 /// Makes the names in a folder durable.
 std::error_code SyncFolder(const std::filesystem::path& folder);
-
-/// Keeps other processes, and other locks of this one, out of a folder as long as it lives. Waits
-/// for its turn.
-class CFolderLock {
-public:
-    explicit CFolderLock(const std::filesystem::path& folder);
-    ~CFolderLock();
-    CFolderLock(const CFolderLock&) = delete;
-    CFolderLock& operator=(const CFolderLock&) = delete;
-
-    /// Why the folder could not be locked; no error when it is.
-    std::error_code Error() const { return m_error; }
-
-private:
-    int m_folder;
-    std::error_code m_error;
-};
 
 }

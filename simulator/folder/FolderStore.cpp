@@ -3,7 +3,9 @@
 #include "simulator/folder/DescriptionNames.h"
 #include "simulator/folder/DescriptionWriter.h"
 #include "simulator/folder/DurableFile.h"
-#include "simulator/folder/MessageText.h"
+#include "simulator/folder/FolderLock.h"
+#include "simulator/folder/SystemError.h"
+#include "simulator/folder/SystemPath.h"
 
 #include <fstream>
 #include <iterator>
@@ -54,7 +56,7 @@ Outcome CFolderStore::ExpectUnchanged() const {
     if (text == m_text) {
         return std::nullopt;
     }
-    return Failure{kChangedElsewhere, "The device's folder " + QuoteForMessage(m_folder.string()) +
+    return Failure{kChangedElsewhere, "The device's folder " + QuotePath(m_folder) +
                                           " was changed by another program; connect the device "
                                           "again"};
 }
@@ -64,7 +66,7 @@ Outcome CFolderStore::StoreContent(StoredFile& file, const std::string& bytes) c
     std::filesystem::create_directory(m_files, error);
     const auto name = UnusedName(file.name);
     if (!error) {
-        error = WriteDurably(m_files / name, m_folder / kContentAside, bytes);
+        error = WriteDurably(m_files / PathOf(name), m_folder / kContentAside, bytes);
     }
     if (!error) {
         error = SyncFolder(m_files);
@@ -96,7 +98,7 @@ std::string CFolderStore::UnusedName(const std::string& wanted) const {
     auto name = base;
     std::error_code ignored;
     const auto isTaken = [&] {
-        return std::filesystem::symlink_status(m_files / name, ignored).type() !=
+        return std::filesystem::symlink_status(m_files / PathOf(name), ignored).type() !=
                std::filesystem::file_type::not_found;
     };
     for (int number = 2; isTaken(); ++number) {
@@ -108,14 +110,15 @@ std::string CFolderStore::UnusedName(const std::string& wanted) const {
 void CFolderStore::RemoveWhatIsNotIn(const DeviceDescription& description) const {
     std::set<std::string> named;
     for (const auto& file : description.files) {
-        named.insert(file.content);
+        named.insert(FileNameKey(file.content));
     }
     std::set<Path> superfluous;
     std::error_code error;
     std::filesystem::directory_iterator entry(m_files, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::error_code ignored;
-        if (entry->is_regular_file(ignored) && !named.contains(entry->path().filename().string())) {
+        const auto name = TextOfPath(entry->path().filename());
+        if (entry->is_regular_file(ignored) && !named.contains(FileNameKey(name))) {
             superfluous.insert(entry->path());
         }
     }
@@ -126,8 +129,8 @@ void CFolderStore::RemoveWhatIsNotIn(const DeviceDescription& description) const
 }
 
 Failure CFolderStore::FailToWrite(std::error_code error) const {
-    return {kWriteFault, "The device's folder " + QuoteForMessage(m_folder.string()) +
-                             " cannot be written: " + error.message()};
+    return {kWriteFault, "The device's folder " + QuotePath(m_folder) +
+                             " cannot be written: " + MessageOf(error)};
 }
 
 }

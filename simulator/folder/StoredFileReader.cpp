@@ -2,6 +2,8 @@
 
 #include "simulator/folder/DescriptionNames.h"
 #include "simulator/folder/MessageText.h"
+#include "simulator/folder/SystemError.h"
+#include "simulator/folder/SystemPath.h"
 
 #include <cerrno>
 #include <cstdint>
@@ -40,17 +42,17 @@ std::int32_t ReadSize(const Path& path, const auto& refuse) {
         refuse("is missing");
     }
     if (error) {
-        refuse("cannot be read: " + error.message());
+        refuse("cannot be read: " + MessageOf(error));
     }
     if (!std::filesystem::is_regular_file(status)) {
         refuse("is not a plain file");
     }
     const auto size = std::filesystem::file_size(path, error);
     if (error) {
-        refuse("cannot be read: " + error.message());
+        refuse("cannot be read: " + MessageOf(error));
     }
     if (!std::ifstream(path, std::ios::binary)) {
-        refuse("cannot be read: " + std::generic_category().message(errno));
+        refuse("cannot be read: " + MessageOf({errno, std::generic_category()}));
     }
     if (size > static_cast<std::uintmax_t>(std::numeric_limits<std::int32_t>::max())) {
         refuse("is larger than 2147483647 bytes");
@@ -99,11 +101,11 @@ std::vector<StoredFile> ReadStoredFiles(const CDescriptionNode& list, const Path
         if (const auto* first = addresses.Claim({file.type, file.id & 0xFFFF}, node.QuotedName())) {
             node.Refuse("has the type and the identifier (low 16 bits) of " + *first);
         }
-        if (const auto* first = contents.Claim(file.content, node.QuotedName())) {
+        if (const auto* first = contents.Claim(FileNameKey(file.content), node.QuotedName())) {
             node.Refuse("has the content of " + *first);
         }
-        file.sizeBytes =
-            ReadSize(folder / kContentFolderName / file.content, [&](const std::string& reason) {
+        file.sizeBytes = ReadSize(
+            folder / kContentFolderName / PathOf(file.content), [&](const std::string& reason) {
                 node.Refuse("is stored in " + QuoteForMessage("files/" + file.content) +
                             ", which " + reason);
             });

@@ -6,11 +6,14 @@
 set -u
 cd "$1" || exit 2
 
-# What each folder may reach by "...": itself and what stands below it.
+# What each folder may reach by "...": itself and what stands below it. A folder inside another one
+# of these has rules of its own.
 declare -A reaches=(
     [contract]="contract"
     [interception]="contract interception"
     [simulator]="contract interception simulator"
+    [simulator/folder/posix]="simulator"
+    [simulator/folder/win32]="simulator"
     [panel]="contract panel"
     [frontend/common]="frontend/common"
     [frontend/headless]="contract panel frontend/common frontend/headless"
@@ -33,7 +36,9 @@ declare -A libraries=(
     [frontend/headless]=""
     [frontend/help]=""
     [frontend/registry]="nlohmann/json.hpp nlohmann/json_fwd.hpp fcntl.h sys/file.h sys/stat.h sys/types.h unistd.h"
-    [simulator]="nlohmann/json.hpp nlohmann/json_fwd.hpp SimpleIni.h dirent.h fcntl.h sys/file.h sys/stat.h sys/types.h unistd.h"
+    [simulator]="nlohmann/json.hpp nlohmann/json_fwd.hpp SimpleIni.h"
+    [simulator/folder/posix]="fcntl.h sys/file.h unistd.h"
+    [simulator/folder/win32]="windows.h"
 )
 
 standard=" algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv
@@ -75,8 +80,13 @@ check_library_include() { # FOLDER PLACE HEADER
 }
 
 check_folder() {
-    local line place rest header
+    local line place rest inner inners=""
+    for inner in "${!reaches[@]}"; do
+        [[ $inner == "$1"/* ]] && inners+=" $inner"
+    done
     while IFS= read -r line; do
+        # shellcheck disable=SC2086 # the folders are a list
+        reaches_one_of "$line" $inners && continue
         place=${line%%:*}
         rest=${line#*:}
         place+=:${rest%%:*}

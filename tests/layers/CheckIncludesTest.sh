@@ -7,7 +7,7 @@ trap 'rm -rf "$tree"' EXIT
 
 failures=0
 expect() { # EXPECTED-STATUS FOLDER INCLUDE
-    mkdir -p "$tree"/{contract,interception,simulator,panel/control,workstation} \
+    mkdir -p "$tree"/{contract,interception,simulator/folder/{posix,win32},panel/control,workstation} \
         "$tree"/frontend/{common,headless,help,registry,qt,win32} \
         "$tree"/component/{linux,loader,register}
     printf '#pragma once\n\n#include %s\n' "$3" >"$tree/$2/Probe.h"
@@ -25,6 +25,10 @@ expect 0 contract '<string>'
 expect 0 contract '"contract/Status.h"'
 expect 0 simulator '"interception/Interceptor.h"'
 expect 0 simulator '<nlohmann/json.hpp>'
+expect 0 simulator/folder '"simulator/Device.h"'
+expect 0 simulator/folder/posix '<unistd.h>'
+expect 0 simulator/folder/posix '"simulator/folder/MessageText.h"'
+expect 0 simulator/folder/win32 '<windows.h>'
 expect 0 panel/control '"contract/panel/Panel.h"'
 expect 0 frontend/headless '"frontend/common/PackedRows.h"'
 expect 0 frontend/qt '"frontend/common/PackedRows.h"'
@@ -45,6 +49,11 @@ expect 1 contract '<QString>'
 expect 1 interception '"simulator/Host.h"'
 expect 1 simulator '"panel/control/View.h"'
 expect 1 simulator '<QString>'
+expect 1 simulator '<unistd.h>'
+expect 1 simulator/folder '<windows.h>'
+expect 1 simulator/folder/posix '<windows.h>'
+expect 1 simulator/folder/win32 '<unistd.h>'
+expect 1 simulator/folder/win32 '"contract/Status.h"'
 expect 1 panel/control '"interception/Interceptor.h"'
 expect 1 panel/control '"simulator/Host.h"'
 expect 1 panel/control '"frontend/qt/QtView.h"'

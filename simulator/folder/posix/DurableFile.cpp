@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <unistd.h>
 
 namespace simulator {
@@ -77,23 +76,6 @@ std::error_code WriteDurably(const std::filesystem::path& file, const std::files
 std::error_code SyncFolder(const std::filesystem::path& folder) {
     const CDescriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
     return descriptor.IsOpen() ? Sync(descriptor.Get()) : LastError();
-}
-
-CFolderLock::CFolderLock(const std::filesystem::path& folder)
-    : m_folder(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    int result = m_folder < 0 ? -1 : ::flock(m_folder, LOCK_EX);
-    while (result != 0 && errno == EINTR) {
-        result = ::flock(m_folder, LOCK_EX);
-    }
-    if (result != 0) {
-        m_error = LastError();
-    }
-}
-
-CFolderLock::~CFolderLock() {
-    if (m_folder >= 0) {
-        ::close(m_folder);
-    }
 }
 
 }
