@@ -163,7 +163,8 @@ TEST_F(CodeUploadTest, UnknownWaysAreRefused) {
 
 TEST_F(CodeUploadTest, MissingFileIsRefusedBeforeMaintenance) {
     Connect(DeviceWithCode(kKrx8));
-    ExpectRefused(UploadFpga("C:\\gone.bin"), 0x80070002, "There is no file \"C:/gone.bin\"");
+    const auto path = std::filesystem::path("C:/gone.bin").make_preferred().string();
+    ExpectRefused(UploadFpga("C:\\gone.bin"), 0x80070002, "There is no file \"" + path + "\"");
 }
 
 TEST_F(CodeUploadTest, FileThatVanishesBeforeItIsReadIsMissing) {

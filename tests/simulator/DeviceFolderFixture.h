@@ -63,9 +63,11 @@ protected:
         ASSERT_NE(error, nullptr) << "expected: " << message;
         EXPECT_EQ(error->Message(), message);
     }
-    /// `message` begins after the path of the folder.
+    /// `message` begins after the path of the folder: "/device.json:3: ...".
     void ExpectRefusal(const std::string& message) {
-        ExpectRefusal(m_folder.Path(), m_folder.Path().string() + message);
+        const auto colon = message.find(':');
+        ExpectRefusal(m_folder.Path(),
+                      m_folder.PathOf(message.substr(1, colon - 1)) + message.substr(colon));
     }
 
     /// Every file below the folder, with its content and time.

@@ -13,21 +13,9 @@ TEST_F(DeviceFolderRefusalTest, MissingFolderIsRefused) {
     EXPECT_FALSE(fs::exists(folder));
 }
 
-TEST_F(DeviceFolderRefusalTest, FolderOfTwoLinesIsRefusedInOne) {
-    const auto path = m_folder.Path().string();
-    ExpectRefusal(path + "/a\nb\\\"\xE9", path + "/a\\nb\\\"\xE9: there is no such folder");
-}
-
 TEST_F(DeviceFolderRefusalTest, FileInPlaceOfFolderIsRefused) {
     const auto folder = m_folder.Path() / "device.json";
     ExpectRefusal(folder, folder.string() + ": is not a folder");
-}
-
-TEST_F(DeviceFolderRefusalTest, UnreadableFolderIsRefused) {
-    // A link to itself cannot be followed by anybody, whatever the permissions.
-    const auto folder = m_folder.Path() / "loop";
-    fs::create_symlink(folder, folder);
-    ExpectRefusal(folder, folder.string() + ": cannot be read: Too many levels of symbolic links");
 }
 
 TEST_F(DeviceFolderRefusalTest, FolderWithoutDescriptionIsRefused) {
@@ -39,13 +27,6 @@ TEST_F(DeviceFolderRefusalTest, DescriptionThatIsAFolderIsRefused) {
     fs::remove(m_folder.Path() / "device.json");
     fs::create_directory(m_folder.Path() / "device.json");
     ExpectRefusal("/device.json: cannot be read: Is a directory");
-}
-
-TEST_F(DeviceFolderRefusalTest, UnreadableDescriptionIsRefused) {
-    const auto path = m_folder.Path() / "device.json";
-    fs::remove(path);
-    fs::create_symlink(path, path);
-    ExpectRefusal("/device.json: cannot be read: Too many levels of symbolic links");
 }
 
 TEST_F(DeviceFolderRefusalTest, GiantDescriptionIsRefusedUnread) {
@@ -109,15 +90,6 @@ TEST_F(DeviceFolderRefusalTest, FolderInPlaceOfStoredFileIsRefused) {
     fs::create_directory(m_folder.Path() / "files/a.fia");
     ExpectRefusal(
         "/device.json:10: \"files[0]\" is stored in \"files/a.fia\", which is not a plain file");
-}
-
-TEST_F(DeviceFolderRefusalTest, UnreadableStoredFileIsRefused) {
-    const auto path = m_folder.Path() / "files/a.fia";
-    fs::remove(path);
-    fs::create_symlink(path, path);
-    ExpectRefusal(
-        "/device.json:10: \"files[0]\" is stored in \"files/a.fia\", which cannot be read: "
-        "Too many levels of symbolic links");
 }
 
 TEST_F(DeviceFolderRefusalTest, TooLargeStoredFileIsRefused) {

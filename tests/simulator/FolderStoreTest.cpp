@@ -1,74 +1,11 @@
-#include "simulator/Device.h"
-#include "tests/simulator/Answers.h"
-#include "tests/simulator/DeviceFolderFixture.h"
-
-#include <algorithm>
-#include <csignal>
-#include <sys/resource.h>
+#include "tests/simulator/FolderStoreFixture.h"
 
 namespace simulator {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// Lets no file of this process grow beyond a size while it lives, as a disk that is full.
-class CFullDisk {
-public:
-    explicit CFullDisk(rlim_t sizeBytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
-        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_limit), 0);
-        const rlimit limit{sizeBytes, m_limit.rlim_max};
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    }
-    ~CFullDisk() {
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &m_limit), 0);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    CFullDisk(const CFullDisk&) = delete;
-    CFullDisk& operator=(const CFullDisk&) = delete;
-
-private:
-    void (*const m_handler)(int);
-    rlimit m_limit{};
-};
-
-/// A device that lives in its folder.
-class FolderStoreTest : public DeviceFolderFixture {
-protected:
-    std::shared_ptr<CDevice> Open() {
-        auto result = OpenDevice(m_folder.Path());
-        if (const auto* error = std::get_if<DescriptionError>(&result)) {
-            ADD_FAILURE() << error->Message();
-            return nullptr;
-        }
-        return std::get<std::shared_ptr<CDevice>>(result);
-    }
-    static Outcome Rename(CDevice& device, const std::string& hardwareVersion) {
-        auto next = device.State();
-        next.hardwareVersion = hardwareVersion;
-        return device.Change(next);
-    }
-    static Outcome Store(CDevice& device, StoredFile file, const std::string& bytes) {
-        auto next = device.State();
-        file.sizeBytes = static_cast<std::int32_t>(bytes.size());
-        next.files.push_back(file);
-        const NewContent content{next.files.size() - 1, bytes};
-        return device.Change(next, &content);
-    }
-    std::string Content(const std::string& name) const {
-        std::ostringstream text;
-        text << std::ifstream(m_folder.Path() / "files" / name).rdbuf();
-        return text.str();
-    }
-    std::vector<std::string> StoredNames() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(m_folder.Path() / "files")) {
-            names.push_back(entry.path().filename().string());
-        }
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-    using NameList = std::vector<std::string>;
-};
+using FolderStoreTest = FolderStoreFixture;
 
 TEST_F(FolderStoreTest, ChangeIsThereAfterOpeningAgain) {
     const auto device = Open();
@@ -159,37 +96,6 @@ TEST_F(FolderStoreTest, ChangeAfterAnotherProgramsIsRefused) {
                                         "again");
     EXPECT_EQ(device->Description().hardwareVersion, "");
     EXPECT_EQ(Snapshot(), before);
-}
-
-TEST_F(FolderStoreTest, FolderThatCannotBeWrittenLeavesTheDeviceAsItWas) {
-    const auto device = Open();
-    // In the way of the new description, also of a user who may write everywhere.
-    fs::create_directory(m_folder.Path() / "device.json.new");
-    const auto state = device->State();
-    const auto failure = Store(*device, {"c.fia", 21, 3, "1", 0, kInFlash, 0, ""}, "cc");
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->status, contract::Status::FromBits(0x8007001D));
-    EXPECT_EQ(failure->description, "The device's folder \"" + m_folder.Path().string() +
-                                        "\" cannot be written: Is a directory");
-    EXPECT_EQ(device->State(), state);
-    EXPECT_EQ(Open()->State(), state);
-}
-
-TEST_F(FolderStoreTest, DiskThatFillsUpLeavesTheDeviceAsItWas) {
-    const auto device = Open();
-    const auto state = device->State();
-    const auto before = Snapshot();
-    const auto failure = [&] {
-        const CFullDisk disk(50000);
-        return Store(*device, {"c.fia", 21, 3, "1", 0, kInFlash, 0, ""}, std::string(100000, 'c'));
-    }();
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->status, contract::Status::FromBits(0x8007001D));
-    EXPECT_EQ(failure->description, "The device's folder \"" + m_folder.Path().string() +
-                                        "\" cannot be written: File too large");
-    EXPECT_EQ(device->State(), state);
-    EXPECT_EQ(Snapshot(), before);
-    EXPECT_FALSE(Store(*device, {"c.fia", 21, 3, "1", 0, kInFlash, 0, ""}, "c"));
 }
 
 TEST_F(FolderStoreTest, FolderThatIsGoneLeavesTheDeviceAsItWas) {

@@ -1,8 +1,5 @@
 #include "simulator/device/VersionText.h"
 #include "tests/simulator/WritingFixture.h"
-#include "tests/support/WithoutRoot.h"
-
-#include <sys/stat.h>
 
 namespace simulator {
 namespace {
@@ -25,7 +22,7 @@ protected:
         Connect(SmallDevice(kKrx20));
         m_log->events.clear();
         ExpectFailure(Update(text), 0x8007000D,
-                      "\"" + (m_workstation.Path() / "p/u.ini").string() + "\"" + reason);
+                      "\"" + m_workstation.PathOf("p/u.ini") + "\"" + reason);
         EXPECT_EQ(m_log->events, Events{});
         EXPECT_EQ(Names(), NameList{});
     }
@@ -103,7 +100,7 @@ TEST_F(IniUpdateTest, CodeIsLoadedAsWell) {
 
 TEST_F(IniUpdateTest, MissingFileMakesThePartialStatusAndNoVersion) {
     Connect(SmallDevice(kKrx20));
-    const auto path = (m_workstation.Path() / "p/gone.fia").string();
+    const auto path = m_workstation.PathOf("p/gone.fia");
     EXPECT_EQ(Update(Package("file = gone.fia\nfile = a_2nd.fia\n")),
               contract::Status::FromBits(0x041B1010));
     EXPECT_EQ(m_log->events,
@@ -128,7 +125,7 @@ TEST_F(IniUpdateTest, NoFileLoadedIsAFailure) {
     auto description = SmallDevice(kKrx20);
     description.mode = kServiceMode;
     Connect(description);
-    const auto path = (m_workstation.Path() / "p/gone.fia").string();
+    const auto path = m_workstation.PathOf("p/gone.fia");
     ExpectFailure(Update(Package("file = gone.fia\n")), 0x80070002,
                   "None of the files of the package could be loaded: There is no file \"" + path +
                       "\"");
@@ -142,15 +139,6 @@ TEST_F(IniUpdateTest, UnfitImageIsNamed) {
     EXPECT_EQ(Update(Package("image = i.krx10\nfile = a_2nd.fia\n")), contract::kPartialUpdate);
     EXPECT_EQ(m_log->events[2], "message i.krx10 was not loaded: \"i.krx10\" is no software image "
                                 "for KRX-20 0/0");
-}
-
-TEST_F(IniUpdateTest, LinkOutOfTheFolderIsNotFollowed) {
-    WorkstationFile("secret_alg.fia", "x");
-    std::filesystem::create_symlink("../secret_alg.fia", m_workstation.Path() / "p/link_alg.fia");
-    Connect(SmallDevice(kKrx20));
-    ExpectFailure(Update(Package("file = link_alg.fia\n")), 0x80070005,
-                  "None of the files of the package could be loaded: it lies outside the folder "
-                  "of the description");
 }
 
 TEST_F(IniUpdateTest, PathWithBackslashesBehindAFolderOfThisSystemWorks) {
@@ -174,34 +162,16 @@ TEST_F(IniUpdateTest, CompleteUpdateMendsTheFileTest) {
 TEST_F(IniUpdateTest, MissingDescriptionFails) {
     Connect(SmallDevice(kKrx20));
     ExpectFailure(Control()->UpdateFromIniFile("\\Flash\\krx8upd.ini"), 0x80070002,
-                  "There is no update description \"/Flash/krx8upd.ini\"");
+                  "There is no update description \"" +
+                      std::filesystem::path("/Flash/krx8upd.ini").make_preferred().string() + "\"");
     const auto path = m_workstation.Path().string();
     ExpectFailure(Control()->UpdateFromIniFile(path), 0x8007001E,
                   "\"" + path + "\" cannot be read: it is not a plain file");
 }
 
-TEST_F(IniUpdateTest, DescriptionThatMayNotBeReadFails) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("p/u.ini", Package("file = a_2nd.fia\n"));
-    const auto folder = m_workstation.Path() / "p";
-    for (const auto& open : {m_workstation.Path(), folder}) {
-        ASSERT_EQ(chmod(open.c_str(), 0755), 0);
-    }
-    for (const auto& locked : {std::filesystem::path(path), folder}) {
-        ASSERT_EQ(chmod(locked.c_str(), 0), 0);
-        {
-            const support::CWithoutRoot rights;
-            ExpectFailure(Control()->UpdateFromIniFile(path), 0x80070005,
-                          "\"" + path + "\" cannot be read: Permission denied");
-        }
-        ASSERT_EQ(chmod(locked.c_str(), 0755), 0);
-    }
-    EXPECT_EQ(Names(), NameList{});
-}
-
 TEST_F(IniUpdateTest, HugeDescriptionFails) {
     Connect(SmallDevice(kKrx20));
-    const auto path = (m_workstation.Path() / "p/u.ini").string();
+    const auto path = m_workstation.PathOf("p/u.ini");
     ExpectFailure(Update(std::string(1048577, '\n')), 0x8007001E,
                   "\"" + path + "\" cannot be read: it is larger than 1048576 bytes");
 }

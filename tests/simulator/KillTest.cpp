@@ -1,14 +1,11 @@
 #include "tests/simulator/DeviceSnapshot.h"
 #include "tests/simulator/WriterFixture.h"
+#include "tests/simulator/WriterProcess.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
-#include <csignal>
 #include <iostream>
 #include <random>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace simulator {
 namespace {
@@ -52,48 +49,18 @@ protected:
         }
     }
 
-    /// What the child does until it is killed. It writes a byte when it begins and one for each
-    /// step that it has done.
-    [[noreturn]] void WriteForEver(std::size_t step, int progress) {
-        Reconnect();
-        while (!HasFailure() && write(progress, "+", 1) == 1 && RunStep(step)) {
-            step = (step + 1) % StepCount();
-        }
-        _exit(1);
-    }
-
-    /// Has a child write from `first` on and kills it some time after it has begun `target`.
+    /// Has a process write from `first` on and kills it some time after it has begun `target`.
     /// Returns the step that it was at.
     std::size_t KillOneWriter(std::size_t first, std::size_t target, Clock::duration life) {
-        std::array<int, 2> progress{};
-        EXPECT_EQ(pipe(progress.data()), 0);
-        const auto child = fork();
-        if (child == 0) {
-            WriteForEver(first, progress[1]);
-        }
-        close(progress[1]);
+        CWriterProcess writer(*this, first);
         const auto before = (target + StepCount() - first) % StepCount();
-        EXPECT_EQ(ReadBytes(progress[0], before + 1), before + 1) << "The writer failed";
+        EXPECT_EQ(writer.ReadReports(before + 1), before + 1) << "The writer failed";
         // The moment of the kill is what is tested, so that the clock is asked and no condition.
         const auto end = Clock::now() + life;
         while (Clock::now() < end) {
         }
-        EXPECT_EQ(kill(child, SIGKILL), 0);
-        int status = 0;
-        EXPECT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_TRUE(WIFSIGNALED(status)) << "The writer ended by itself";
-        const auto after = ReadBytes(progress[0], SIZE_MAX);
-        close(progress[0]);
-        return (target + after) % StepCount();
-    }
-
-    /// Reads until there are so many or the writer is gone.
-    static std::size_t ReadBytes(int progress, std::size_t most) {
-        std::size_t count = 0;
-        for (char byte = 0; count < most && read(progress, &byte, 1) == 1;) {
-            ++count;
-        }
-        return count;
+        writer.Kill();
+        return (target + writer.ReadReports(SIZE_MAX)) % StepCount();
     }
 
     /// Kills writers in each of the steps.

@@ -31,7 +31,7 @@ CTemporaryFolder::~CTemporaryFolder() {
 }
 
 std::string CTemporaryFolder::PathOf(const std::string& relativePath) const {
-    const std::u8string path = (m_path / FromUtf8(relativePath)).u8string();
+    const std::u8string path = (m_path / FromUtf8(relativePath)).make_preferred().u8string();
     return {path.begin(), path.end()};
 }
 

@@ -15,7 +15,7 @@ public:
 
     const std::filesystem::path& Path() const { return m_path; }
 
-    /// The full path of what lies in it. UTF-8.
+    /// The full path of what lies in it, with the system's own separators. UTF-8.
     std::string PathOf(const std::string& relativePath) const;
 
     /// Writes a file, with the folders on the way to it. The path is UTF-8.

@@ -104,14 +104,6 @@ TEST_F(UploadTest, BackslashesSeparateAsWell) {
     EXPECT_EQ(Names(), NameList{"a_alg.fia"});
 }
 
-TEST_F(UploadTest, FileThatVanishesWhileItIsReadIsStored) {
-    Connect(SmallDevice(kKrx20));
-    const auto path = WorkstationFile("b_alg.fia", "b");
-    m_log->onEvent = [&] { std::filesystem::remove(path); };
-    EXPECT_EQ(Upload(path), contract::kSuccess);
-    EXPECT_EQ(Names(), NameList{"b_alg.fia"});
-}
-
 TEST_F(UploadTest, DeviceChangedFromInsideAMessageIsNotSetBack) {
     Connect(SmallDevice(kKrx20));
     const auto inner = WorkstationFile("inner_alg.fia", "b");

@@ -112,8 +112,15 @@ void WriterFixture::SetUp() {
     }
 }
 
+void WriterFixture::WriteForEver(std::size_t step, const std::function<bool()>& report) {
+    Reconnect();
+    while (!HasFailure() && report() && RunStep(step)) {
+        step = (step + 1) % StepCount();
+    }
+}
+
 std::string WriterFixture::PathOf(int generation, const std::string& name) const {
-    return m_workstation.Path() / std::to_string(generation) / name;
+    return m_workstation.PathOf(std::to_string(generation) + "/" + name);
 }
 
 Status WriterFixture::StoreFile(int generation, const std::string& name, std::int32_t destination) {

@@ -4,6 +4,8 @@
 #include "tests/simulator/WritingFixture.h"
 
 #include <cstddef>
+#include <filesystem>
+#include <functional>
 #include <string>
 
 namespace simulator {
@@ -11,6 +13,13 @@ namespace simulator {
 /// A device folder that is written to by every operation that can, one after the other and round
 /// and round: the last round leaves what the first one found.
 class WriterFixture : public WritingFixture {
+public:
+    /// Connects the device of the folder and carries out one step after the other until one fails.
+    /// Calls `report` before the first one and after each; false ends it.
+    void WriteForEver(std::size_t step, const std::function<bool()>& report);
+
+    const std::filesystem::path& DeviceFolder() const { return m_deviceFolder; }
+
 protected:
     struct Step {
         const char* name;

@@ -36,7 +36,7 @@ void WritingFixture::Reconnect() {
 
 std::string WritingFixture::WorkstationFile(const std::string& name, const std::string& content) {
     m_workstation.Write(name, content);
-    return (m_workstation.Path() / name).string();
+    return m_workstation.PathOf(name);
 }
 
 contract::Status WritingFixture::Upload(const std::string& path, std::int32_t destination,
