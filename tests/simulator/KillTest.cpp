@@ -12,11 +12,10 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// Of a writer in each of its steps, which makes 209 kills in a round.
-constexpr std::size_t kKillsPerStep = 11;
 /// Kills that never hit an operation at work would prove nothing. How many of a round find a change
 /// undone, done, or files that it has prepared, depends on the disk and on what else runs: on some
-/// machines no more than four find one done. So rounds go on until there are so many of each.
+/// machines no more than four of 209 find one done. So rounds go on until there are so many of
+/// each.
 constexpr std::size_t kLeastOfEach = 5;
 /// When so many do not do, the kills never come at the right moment.
 constexpr int kMostRounds = 10;
@@ -65,7 +64,7 @@ protected:
 
     /// Kills writers in each of the steps.
     void KillInEachStep() {
-        std::vector<std::size_t> killsLeft(StepCount(), kKillsPerStep);
+        std::vector<std::size_t> killsLeft(StepCount(), CWriterProcess::kKillsPerStep);
         while (!HasFailure() && std::ranges::max(killsLeft) > 0) {
             auto target = m_next;
             while (killsLeft[target] == 0) {
@@ -136,8 +135,9 @@ TEST_F(KillTest, KilledWriterLeavesTheStateBeforeOrAfter) {
     for (int round = 0; !HasFailure() && !HasHitEnough() && round < kMostRounds; ++round) {
         KillInEachStep();
     }
-    EXPECT_TRUE(HasHitEnough()) << m_undoneSteps << " kills before a change, " << m_doneSteps
-                                << " after it, " << m_leftovers << " with files prepared";
+    std::cout << "Kills: " << m_undoneSteps << " before a change, " << m_doneSteps << " after it, "
+              << m_leftovers << " with files prepared" << std::endl;
+    EXPECT_TRUE(HasHitEnough());
 }
 
 }

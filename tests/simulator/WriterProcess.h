@@ -11,6 +11,10 @@ namespace simulator {
 /// killed. One that is not is ended at the next step after this object.
 class CWriterProcess {
 public:
+    /// How many writers a round of kills can start in each step: 209 in all where a process is
+    /// forked, and 76 where starting one takes a quarter of a second.
+    static const std::size_t kKillsPerStep;
+
     CWriterProcess(WriterFixture& writer, std::size_t firstStep);
     ~CWriterProcess();
     CWriterProcess(const CWriterProcess&) = delete;

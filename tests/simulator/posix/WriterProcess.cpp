@@ -7,6 +7,8 @@
 
 namespace simulator {
 
+const std::size_t CWriterProcess::kKillsPerStep = 11;
+
 CWriterProcess::CWriterProcess(WriterFixture& writer, std::size_t firstStep) {
     std::array<int, 2> pipeEnds{};
     EXPECT_EQ(pipe(pipeEnds.data()), 0);

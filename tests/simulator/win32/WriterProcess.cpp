@@ -9,6 +9,8 @@
 
 namespace simulator {
 
+const std::size_t CWriterProcess::kKillsPerStep = 4;
+
 namespace {
 
 constexpr UINT kKilled = 77;
