@@ -32,6 +32,9 @@ void CPackedRows::Clear() {
 }
 
 void CPackedRows::ChangeCell(int row, int column, std::string_view text) {
+    if (!HasCell(row, column)) {
+        return;
+    }
     Row& target = At(row);
     if (column < target.cellCount) {
         Rewrite(row, target.cellCount, [&](int cell, const char*& old) {
@@ -62,6 +65,9 @@ std::string_view CPackedRows::Cell(int row, int column) const {
 }
 
 void CPackedRows::InsertColumn(int index) {
+    if (m_columnCount++ == 0) {
+        return;
+    }
     for (int row = 0; row < Count(); ++row) {
         if (index < At(row).cellCount) {
             Rewrite(row, At(row).cellCount + 1, [&](int cell, const char*& old) {
@@ -69,6 +75,16 @@ void CPackedRows::InsertColumn(int index) {
             });
         }
     }
+}
+
+void CPackedRows::AppendCell(Row& row, std::string_view text) {
+    if (text.size() < kLongCell) {
+        WriteShortCell(text);
+    } else {
+        AppendLongCell(text);
+    }
+    row.cells = m_text.Block();
+    ++row.cellCount;
 }
 
 void CPackedRows::AppendLongCell(std::string_view text) {

@@ -14,7 +14,8 @@ namespace common {
 /// length, and the rows likewise, so that a row costs 16 bytes, its text and a byte a cell, and
 /// filling a list in row and column order allocates nothing for a row or a cell.
 ///
-/// Rows must exist; of columns it knows only the cells that were set: any other cell is empty.
+/// Rows must exist where nothing else is said. Of columns it knows how many there are, and the
+/// cells that were set: any other cell is empty.
 class CPackedRows {
 public:
     int Count() const { return static_cast<int>(m_rows.size()); }
@@ -24,16 +25,20 @@ public:
     /// Keeps the memory for the rows to come: a list is cleared to be filled again.
     void Clear();
 
+    /// Nothing when there is no such row or column.
     void SetCell(int row, int column, std::string_view text) {
-        if (row == m_openRow && column == m_open->cellCount) {
-            AppendCell(*m_open, text);
+        if (m_open && row == m_openRow && column == m_open->cellCount && column < m_columnCount &&
+            HasRoomFor(text)) {
+            ++m_open->cellCount;
+            WriteShortCell(text);
         } else {
             ChangeCell(row, column, text);
         }
     }
     /// UTF-8 as it was set. Valid until the next change.
     std::string_view Cell(int row, int column) const;
-    /// Makes room for a new column in the rows that are there.
+    /// Makes room for a new column in the rows that are there. The first column finds the first
+    /// cells of the rows that were there before it.
     void InsertColumn(int index);
 
     void SetKey(int row, std::uint32_t key) { At(row).key = key; }
@@ -58,21 +63,24 @@ private:
     // A length up to 254 is one byte; a longer one is this mark and four bytes.
     static constexpr unsigned char kLongCell = 0xFF;
 
-    void AppendCell(Row& row, std::string_view text) {
-        if (text.size() < kLongCell) {
-            char* const place = m_text.Extend(1 + text.size());
-            *place = static_cast<char>(text.size());
-            text.copy(place + 1, text.size());
-        } else {
-            AppendLongCell(text);
-        }
-        row.cells = m_text.Block();
-        ++row.cellCount;
+    // Whether a cell can be written without moving the row that is open.
+    bool HasRoomFor(std::string_view text) const {
+        return text.size() < kLongCell && m_text.HasRoom(1 + text.size());
     }
+    // The copy comes last, so that writing a cell needs no stack frame.
+    void WriteShortCell(std::string_view text) {
+        char* const place = m_text.Extend(1 + text.size());
+        *place = static_cast<char>(text.size());
+        text.copy(place + 1, text.size());
+    }
+    void AppendCell(Row& row, std::string_view text);
     void AppendLongCell(std::string_view text);
     static std::string_view NextCell(const char*& cells);
     static std::string_view CellsOf(const Row& row);
     void ChangeCell(int row, int column, std::string_view text);
+    bool HasCell(int row, int column) const {
+        return row >= 0 && row < Count() && column >= 0 && column < m_columnCount;
+    }
     void Open(int row);
     void OpenAtEnd(int row);
     std::string TakeCells(int row);
@@ -85,6 +93,7 @@ private:
     // The row whose cells are the open block, so that more can be appended to it.
     int m_openRow = -1;
     Row* m_open = nullptr;
+    int m_columnCount = 0;
     std::size_t m_unusedBytes = 0;
 };
 

@@ -14,9 +14,13 @@ public:
     void OpenBlock() { m_block = m_end; }
     /// Empties the open block.
     void EmptyBlock() { m_end = m_block; }
+    /// Whether the open block can grow that much without moving.
+    bool HasRoom(std::size_t bytes) const {
+        return static_cast<std::size_t>(m_limit - m_end) >= bytes;
+    }
     /// Makes the open block longer and returns where to write. May move the open block.
     char* Extend(std::size_t bytes) {
-        if (static_cast<std::size_t>(m_limit - m_end) < bytes) {
+        if (!HasRoom(bytes)) {
             ContinueInNextChunk(bytes);
         }
         char* const place = m_end;

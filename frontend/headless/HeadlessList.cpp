@@ -36,10 +36,7 @@ void CHeadlessList::InsertColumn(int index, const panel::ListColumn& column) {
     if (index < 0 || index > count) {
         index = count;
     }
-    // The first column finds the first cell of the rows that were there before it.
-    if (count > 0) {
-        m_rows.InsertColumn(index);
-    }
+    m_rows.InsertColumn(index);
     m_columns.insert(m_columns.begin() + index,
                      {ToShownText(column.heading), column.widthPixels, column.alignment});
 }

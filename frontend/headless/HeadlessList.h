@@ -27,11 +27,7 @@ public:
 
     void InsertColumn(int index, const panel::ListColumn& column);
     int InsertRow(int index, std::string_view text);
-    void SetCell(int row, int column, std::string_view text) {
-        if (HasRow(row) && HasColumn(column)) {
-            m_rows.SetCell(row, column, text);
-        }
-    }
+    void SetCell(int row, int column, std::string_view text) { m_rows.SetCell(row, column, text); }
     std::string GetCell(int row, int column) const;
     void SetRowKey(int row, std::uint32_t key) {
         if (HasRow(row)) {

@@ -18,10 +18,7 @@ Qt::Alignment ToQt(panel::Alignment alignment) {
 void CListModel::AddColumn(int index, const panel::ListColumn& column, const QFont& headingFont) {
     Announce();
     beginInsertColumns({}, index, index);
-    // The first column finds the first cell of the rows that were there before it.
-    if (!m_columns.empty()) {
-        m_rows.InsertColumn(index);
-    }
+    m_rows.InsertColumn(index);
     m_columns.insert(m_columns.begin() + index,
                      Column{qt::ToQt(column.heading), ToQt(column.alignment), headingFont});
     endInsertColumns();

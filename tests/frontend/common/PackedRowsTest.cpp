@@ -10,6 +10,12 @@ namespace {
 
 class PackedRowsTest : public testing::Test {
 protected:
+    PackedRowsTest() {
+        for (int column = 0; column < kColumns; ++column) {
+            m_rows.InsertColumn(column);
+        }
+    }
+
     void FillInOrder(int rows, int columns) {
         for (int row = 0; row < rows; ++row) {
             m_rows.Insert(row, CellText(row, 0));
@@ -23,6 +29,7 @@ protected:
         return "r" + std::to_string(row) + "c" + std::to_string(column);
     }
 
+    static constexpr int kColumns = 7;
     common::CPackedRows m_rows;
 };
 
@@ -41,6 +48,30 @@ TEST_F(PackedRowsTest, CellNeverSetIsEmpty) {
     EXPECT_EQ(m_rows.Cell(0, 2), "");
     EXPECT_EQ(m_rows.Cell(0, 3), "third");
     EXPECT_EQ(m_rows.Cell(0, 4), "");
+}
+
+TEST_F(PackedRowsTest, SetCellOfNoRowOrColumnDoesNothing) {
+    m_rows.SetCell(-1, 0, "no row");
+    m_rows.SetCell(0, 0, "no row");
+    FillInOrder(2, kColumns);
+    for (const int row : {-1, 2}) {
+        m_rows.SetCell(row, 0, "no row");
+    }
+    for (const int column : {-1, kColumns}) {
+        m_rows.SetCell(1, column, "no column");
+    }
+    m_rows.InsertColumn(kColumns);
+    EXPECT_EQ(m_rows.Count(), 2);
+    EXPECT_EQ(m_rows.Cell(0, 0), "r0c0");
+    EXPECT_EQ(m_rows.Cell(1, 6), "r1c6");
+    EXPECT_EQ(m_rows.Cell(1, 7), "");
+}
+
+TEST_F(PackedRowsTest, FirstColumnFindsCellsThatWereThereBefore) {
+    common::CPackedRows rows;
+    rows.Insert(0, "before");
+    rows.InsertColumn(0);
+    EXPECT_EQ(rows.Cell(0, 0), "before");
 }
 
 TEST_F(PackedRowsTest, CellsAroundTheLengthMarkAreReadBack) {
