@@ -11,8 +11,10 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace workstation {
@@ -20,6 +22,8 @@ namespace workstation {
 namespace {
 
 constexpr char kTitle[] = "KRX-8 Maintenance Workstation";
+// A window that starts minimised, for one, is never painted.
+constexpr std::chrono::milliseconds kLongestUnpainted{250};
 constexpr std::string_view kSwitchPolling = "ProductDetectionControl.SetPollingEnabled";
 
 }
@@ -39,7 +43,7 @@ CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesyste
         m_panelHost->Resize({size.width(), size.height()});
     });
     m_devices.OnConnect([this](const auto& folder) { Connect(folder); });
-    m_devices.OnDisconnect([this] { m_panelHost->Disconnect(); });
+    m_devices.OnDisconnect([this] { Disconnect(); });
     // As written: the toolkit's own set of keys depends on the desktop, and some have none to quit.
     connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this,
             [this] { ListDevices(); });
@@ -58,14 +62,15 @@ CMainWindow::~CMainWindow() {
 }
 
 void CMainWindow::Start(const std::optional<OpenedDevice>& device) {
-    if (!device) {
-        m_panelHost->Start({}, nullptr);
-        return;
+    const OpenedDevice opened = device.value_or(OpenedDevice{});
+    m_startPanel = [this, opened] { m_panelHost->Start(opened.folder.string(), opened.device); };
+    if (device) {
+        m_given = device->folder;
+        ListDevices();
+        m_devices.Choose(device->folder);
     }
-    m_given = device->folder;
-    ListDevices();
-    m_devices.Choose(device->folder);
-    m_panelHost->Start(device->folder.string(), device->device);
+    update();
+    QTimer::singleShot(kLongestUnpainted, this, [this] { StartPanel(); });
 }
 
 QWidget& CMainWindow::PanelHolder() { return m_area.Holder(); }
@@ -77,6 +82,11 @@ void CMainWindow::closeEvent(QCloseEvent* event) {
     }
     event->ignore();
     CloseWhenIdle();
+}
+
+void CMainWindow::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    StartPanel();
 }
 
 void CMainWindow::CallLasts(const interception::Operation& operation) {
@@ -120,6 +130,8 @@ void CMainWindow::BuildLayout() {
 }
 
 void CMainWindow::Connect(const std::filesystem::path& folder) {
+    // Other devices come after that of the start, also for a user who is quicker than the painting.
+    StartPanel();
     if (folder == m_panelHost->DeviceName() && !m_panelHost->IsConnected()) {
         m_panelHost->Reconnect();
         return;
@@ -135,12 +147,24 @@ void CMainWindow::Connect(const std::filesystem::path& folder) {
     m_panelHost->Connect(folder.string(), std::get<0>(opened));
 }
 
+void CMainWindow::Disconnect() {
+    StartPanel();
+    m_panelHost->Disconnect();
+}
+
 void CMainWindow::ListDevices() {
     auto folders = simulator::ListDevices(m_root);
     if (!m_given.empty() && std::ranges::find(folders, m_given) == folders.end()) {
         folders.insert(folders.begin(), m_given);
     }
     m_devices.ShowDevices(folders);
+}
+
+// What the panel's host is given here it does from the event loop, so not inside the painting.
+void CMainWindow::StartPanel() {
+    if (const auto start = std::exchange(m_startPanel, {})) {
+        start();
+    }
 }
 
 void CMainWindow::CloseWhenIdle() {

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,18 +37,21 @@ public:
     CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesystem::path root);
     ~CMainWindow() override;
 
-    /// Starts the panel as soon as events are handled, with a device connected if one is given.
+    /// Starts the panel, with a device connected if one is given, once the window has been painted:
+    /// a user sees it before the device has told all about itself. A window that is not to be seen
+    /// is not waited for long. Once.
     void Start(const std::optional<OpenedDevice>& device);
 
     /// Whether nothing waits to be done and no command of the panel is running. To be asked from
     /// the event loop.
-    bool IsIdle() { return m_panelHost->IsIdle(); }
+    bool IsIdle() { return !m_startPanel && m_panelHost->IsIdle(); }
 
     /// The widget that holds the panel's view.
     QWidget& PanelHolder();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void CallLasts(const interception::Operation& operation) override;
@@ -59,14 +63,17 @@ private:
 
     void BuildLayout();
     void Connect(const std::filesystem::path& folder);
+    void Disconnect();
     void ListDevices();
+    void StartPanel();
     void CloseWhenIdle();
 
     const std::filesystem::path m_root;
     CPanelArea& m_area;
     CDevicePane& m_devices;
     CStatusLine& m_status;
-    std::filesystem::path m_given; ///< the device of the start, listed wherever it lies
+    std::filesystem::path m_given;      ///< the device of the start, listed wherever it lies
+    std::function<void()> m_startPanel; ///< what Start has put off; empty once it is done
     bool m_hasLastingCall = false;
     bool m_mustClose = false;
     bool m_mayClose = false;

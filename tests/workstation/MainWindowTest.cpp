@@ -97,6 +97,43 @@ TEST_F(MainWindowTest, DeviceOfTheStartIsListedAndMarked) {
     EXPECT_EQ(StatusText("device"), "bench device connected");
 }
 
+/// Notes the title that a window has when it is painted.
+class CPaintWatch final : public QObject {
+public:
+    explicit CPaintWatch(QWidget& window) : m_window(window) { window.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            titles.push_back(m_window.windowTitle().toStdString());
+        }
+        return false;
+    }
+
+    std::vector<std::string> titles;
+
+private:
+    QWidget& m_window;
+};
+
+TEST_F(MainWindowTest, StartWaitsUntilTheWindowIsPainted) {
+    const CPaintWatch watch(*m_window);
+    Start(MakeDevice());
+    EXPECT_FALSE(m_window->IsIdle());
+    ExpectIdle();
+    ASSERT_FALSE(watch.titles.empty());
+    EXPECT_EQ(watch.titles.front(), "KRX-8 Maintenance Workstation");
+    EXPECT_EQ(m_window->windowTitle(), "KRX-8 Maintenance Workstation - bench device");
+}
+
+TEST_F(MainWindowTest, StartOfAnUnseenWindowConnectsTheDevice) {
+    m_window->hide();
+    const CPaintWatch watch(*m_window);
+    Start(MakeDevice());
+    ExpectIdle();
+    EXPECT_THAT(watch.titles, SizeIs(0));
+    EXPECT_EQ(StatusText("device"), "bench device connected");
+}
+
 TEST_F(MainWindowTest, ConnectButtonConnectsTheChosenDevice) {
     m_window->Start({});
     Devices().setCurrentRow(0);
