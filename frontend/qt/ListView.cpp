@@ -1,6 +1,7 @@
 #include "frontend/qt/ListView.h"
 
 #include "frontend/qt/Font.h"
+#include "frontend/qt/ListHeader.h"
 #include "frontend/qt/Text.h"
 
 #include <QHeaderView>
@@ -33,6 +34,7 @@ CListView::CListView(Selection selection, QWidget* parent)
 }
 
 void CListView::SetUpLook() {
+    setHorizontalHeader(new CListHeader(this));
     setShowGrid(false);
     setWordWrap(false);
     setCornerButtonEnabled(false);

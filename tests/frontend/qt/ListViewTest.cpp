@@ -51,6 +51,16 @@ protected:
     qt::CListView m_list{qt::CListView::Selection::Multiple, nullptr};
 };
 
+TEST_F(ListViewTest, HeadingIsMeasuredInTheFontThatItIsShownIn) {
+    const QHeaderView& header = *m_list.horizontalHeader();
+    QFont bold = header.font();
+    bold.setBold(true);
+    const int width = QFontMetrics(header.font()).size(0, "File name").width();
+    ASSERT_LT(width, QFontMetrics(bold).size(0, "File name").width());
+    const int margins = 2 * m_list.style()->pixelMetric(QStyle::PM_HeaderMargin);
+    EXPECT_EQ(header.sectionSizeHint(0), width + margins);
+}
+
 TEST_F(ListViewTest, FillingReachesTheScreenWithoutEventLoop) {
     QElapsedTimer time;
     time.start();
