@@ -73,7 +73,7 @@ std::int32_t CPromptQueue::ShowBox(const std::string& text, const std::string& c
                                    std::uint32_t style, CWindowStack& windows) {
     const std::optional<Step> step = TakeBoxStep(style);
     if (!step) {
-        NoteUnexpected("box \"" + caption + "\": " + text);
+        m_unexpected.push_back("box \"" + caption + "\": " + text);
     }
     const bool isButton = step && step->code != kEscape;
     const std::int32_t answer = isButton ? step->code : EscapeAnswer(style);
@@ -101,7 +101,7 @@ int CPromptQueue::ActInDialog(CHeadlessView& view, panel::Owner owner) {
     if (!view.DialogResult()) {
         const std::optional<Step> step = TakeStep(Kind::Dialog);
         if (!step && !GiveStandingAnswer(view)) {
-            NoteUnexpected("dialog " + std::to_string(view.Template().id));
+            m_unexpected.push_back("dialog " + std::to_string(view.Template().id));
         } else if (step && step->script) {
             step->script(view);
         }
@@ -121,7 +121,7 @@ int CPromptQueue::ShowMenu(std::span<const panel::MenuItem> items, panel::Point 
                            CWindowStack& windows) {
     const std::optional<Step> step = TakeMenuStep(items);
     if (!step) {
-        NoteUnexpected("menu of " + std::to_string(items.size()) + " lines");
+        m_unexpected.push_back("menu of " + std::to_string(items.size()) + " lines");
     }
     const int command = step ? step->code : panel::kNoCommand;
     m_menus.push_back({{items.begin(), items.end()}, screen, command});
@@ -138,7 +138,7 @@ panel::FileOutcome CPromptQueue::ActInFileDialog(CHeadlessFileDialog& dialog) {
     if (const std::optional<Step> step = TakeStep(Kind::File)) {
         step->fileScript(dialog);
     } else {
-        NoteUnexpected("file dialog \"" + dialog.Dialog().title + "\"");
+        m_unexpected.push_back("file dialog \"" + dialog.Dialog().title + "\"");
     }
     dialog.Cancel();
     m_fileDialogs[position].outcome = dialog.Outcome();
@@ -172,12 +172,6 @@ CPromptQueue::TakeMenuStep(std::span<const panel::MenuItem> items) {
 bool CPromptQueue::GiveStandingAnswer(CHeadlessView& view) const {
     const auto answer = m_standingAnswers.find(view.Template().id);
     return answer != m_standingAnswers.end() && view.Press(answer->second);
-}
-
-void CPromptQueue::NoteUnexpected(const std::string& prompt) {
-    if (m_isAttended) {
-        m_unexpected.push_back(prompt);
-    }
 }
 
 }

@@ -88,9 +88,6 @@ public:
     /// The same, with a script that names the file and accepts.
     void ChooseFile(const std::string& path);
     void CancelFileDialog();
-    /// From now on nobody is there: boxes are answered OK or No, dialogs and menus closed as by
-    /// Escape, and no prompt counts as unexpected.
-    void LeaveUnattended() { m_isAttended = false; }
 
     /// All that was shown, in the order in which it was opened.
     const std::vector<ShownBox>& Boxes() const { return m_boxes; }
@@ -133,11 +130,9 @@ private:
     std::optional<Step> TakeMenuStep(std::span<const panel::MenuItem> items);
     /// False when there is none for that dialog.
     bool GiveStandingAnswer(CHeadlessView& view) const;
-    void NoteUnexpected(const std::string& prompt);
 
     std::deque<Step> m_steps;
     std::map<int, panel::ControlId> m_standingAnswers; // by template
-    bool m_isAttended = true;
     std::vector<ShownBox> m_boxes;
     std::vector<ShownDialog> m_dialogs;
     std::vector<ShownMenu> m_menus;

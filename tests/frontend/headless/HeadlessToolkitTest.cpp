@@ -95,15 +95,6 @@ TEST_F(HeadlessToolkitTest, ViewMadeToFailIsFollowedByOneThatWorks) {
     EXPECT_EQ(m_handler.events, Events{"init"});
 }
 
-TEST_F(HeadlessToolkitTest, UnattendedPromptsAreAnsweredAndNotUnexpected) {
-    Prompts().LeaveUnattended();
-    EXPECT_EQ(ShowBox(kQuestion), 7);
-    EXPECT_EQ(ShowBox(kError), 1);
-    EXPECT_EQ(RunDialog(), DialogOutcome::Closed(2));
-    EXPECT_TRUE(Prompts().UnexpectedPrompts().empty());
-    EXPECT_EQ(Prompts().Boxes().size(), 2u);
-}
-
 TEST_F(HeadlessToolkitTest, PathThatIsTooLongEndsTheFileDialogWithItsError) {
     Prompts().ChooseFile("D:\\a.fia");
     EXPECT_EQ(m_toolkit.OpenFile({.pathCapacity = 8}), panel::FileOutcome::Failed(12291));
