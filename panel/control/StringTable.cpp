@@ -30,8 +30,13 @@ constexpr Entry kStrings[] = {
     // The blanks and the name of the key are part of the text; the menu has no accelerators.
     {StringId::DeletePhoneFiles, "Delete Phone Code file(s)        Delete"},
     {StringId::FpgaCodeFilter, "Fpga files (*.bin)|*.bin|All files (*.*)|*.*|"},
+    // Nobody loads this extension, nor those of application code and images: the dialogs that would
+    // use them are given the filter's text instead (CCodeUpload::ChooseFile). They belong to the
+    // table all the same.
+    {StringId::FpgaCodeExtension, "mcs"},
     {StringId::FpgaCodeFailed, "FPGA code updating failed"},
     {StringId::ApplicationCodeFilter, "Application files (*.bin)|*.bin|All files (*.*)|*.*|"},
+    {StringId::ApplicationCodeExtension, "bin"},
     {StringId::ApplicationCodeFailed, "Application code updating failed"},
     {StringId::PhoneFileFilter, "All files (*.*)|*.*|Secondary and Algorithm files (*.fia)|*.fia|"
                                 "Secondary and Algorithm files for QX3 (*.fg)|*.fg|"},
@@ -52,6 +57,7 @@ constexpr Entry kStrings[] = {
     {StringId::PhoneFileUpload, "Phone Code file upload"},
     {StringId::Krx10ImageFailed, "KRX-10 software image upload failed"},
     {StringId::SoftwareUpload, "Software upload"},
+    {StringId::Krx10ImageExtension, "krx10"},
     {StringId::Krx10ImageFilter, "KRX-10 image (*.krx10)|*.krx10|All files (*.*)|*.*|"},
     {StringId::FileMoveFailed, "File moving failed"},
     {StringId::FileMove, "File move"},
@@ -79,6 +85,7 @@ constexpr Entry kStrings[] = {
     {StringId::Krx20ReportHeader, "KRX-20 MAINTENANCE INFO"},
     {StringId::UpdateKrx20Software, "Update KRX-20 software"},
     {StringId::Krx20ImageFailed, "KRX-20 software image upload failed"},
+    {StringId::Krx20ImageExtension, "krx20"},
     {StringId::Krx20ImageFilter, "KRX-20 image (*.krx20)|*.krx20|All files (*.*)|*.*|"},
     {StringId::MediaTestsFailed, "Re-executing of CF and/or PCCard test(s) failed"},
     {StringId::NewerSoftware, "Newer version of Programming Device software is available."},
