@@ -27,7 +27,8 @@ public:
 
     CListView(Selection selection, QWidget* parent);
 
-    /// Called with the key before the list handles it.
+    /// Called with the key before the list handles it. The list may end inside this call and the
+    /// next one's.
     void SetKeyListener(std::function<void(std::uint16_t virtualKey)> listener);
     /// Called with the place on the screen after the list has adjusted its selection.
     void SetRightClickListener(std::function<void(QPoint screen)> listener);
@@ -71,6 +72,7 @@ private:
     void StartTimer();
     void BringUpToDate();
     void ApplySelection();
+    void TellKey(std::uint16_t virtualKey) const;
     void MoveMarkAfterKey(const QKeyEvent& event, int rowBefore);
     QItemSelection RowsBetween(int first, int last) const;
 

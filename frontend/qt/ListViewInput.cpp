@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QToolTip>
@@ -52,9 +53,10 @@ void CListView::setSelection(const QRect& rectangle, QItemSelectionModel::Select
 }
 
 void CListView::keyPressEvent(QKeyEvent* event) {
-    const std::uint16_t virtualKey = ToVirtualKey(event->key(), event->modifiers());
-    if (m_keyListener && virtualKey != kNoVirtualKey) {
-        m_keyListener(virtualKey);
+    const QPointer<const CListView> self(this);
+    TellKey(ToVirtualKey(event->key(), event->modifiers()));
+    if (!self) {
+        return;
     }
     ApplySelection();
     BringUpToDate();
@@ -65,6 +67,14 @@ void CListView::keyPressEvent(QKeyEvent* event) {
     m_extendsSelection = event->modifiers().testFlag(Qt::ControlModifier);
     QTableView::keyPressEvent(event);
     MoveMarkAfterKey(*event, rowBefore);
+}
+
+// A box that the listener shows may live to see the end of the list, and of the listener with it.
+void CListView::TellKey(std::uint16_t virtualKey) const {
+    if (m_keyListener && virtualKey != kNoVirtualKey) {
+        const std::function<void(std::uint16_t)> listener = m_keyListener;
+        listener(virtualKey);
+    }
 }
 
 void CListView::MoveMarkAfterKey(const QKeyEvent& event, int rowBefore) {
@@ -93,7 +103,8 @@ void CListView::mousePressEvent(QMouseEvent* event) {
 void CListView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
     if (event->reason() == QContextMenuEvent::Mouse && m_rightClickListener) {
-        m_rightClickListener(event->globalPos());
+        const std::function<void(QPoint)> listener = m_rightClickListener;
+        listener(event->globalPos());
     }
 }
 

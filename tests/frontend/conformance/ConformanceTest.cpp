@@ -74,4 +74,12 @@ panel::DialogOutcome ConformanceTest::RunDialog(const panel::DialogTemplate& dia
     return Toolkit().RunDialog(dialogTemplate, m_dialogHandler, panel::Owner::Panel);
 }
 
+void ConformanceTest::LoseViewInABox() {
+    constexpr std::uint32_t kError = 0x10;
+    m_driver->ExpectBox(1, [this] { m_view.reset(); });
+    m_driver->ExpectBox(1);
+    Toolkit().ShowBox("Device lost", "first", kError);
+    Toolkit().ShowBox("Panel closed", "second", kError);
+}
+
 }

@@ -66,6 +66,9 @@ protected:
     void FillList(panel::ControlId list, int rows);
     /// Runs a dialog with the test's dialog handler.
     panel::DialogOutcome RunDialog(const panel::DialogTemplate& dialogTemplate = kDialogTemplate);
+    /// Shows two boxes and destroys the test's view while the first one is open. Front ends that
+    /// let controls end later than the view have ended them by the time the second one closes.
+    void LoseViewInABox();
 
     std::unique_ptr<IFrontEndDriver> m_driver = MakeDriver();
     CRecordingHandler m_handler;

@@ -197,6 +197,31 @@ TEST_F(ControlsTest, ViewMayBeDestroyedInsideItsCommand) {
     EXPECT_EQ(m_handler.events, Events{"command 309"});
 }
 
+TEST_F(ControlsTest, ViewMayBeDestroyedInABoxOfItsCommand) {
+    Show();
+    m_handler.onCommand = [this](panel::ControlId) { LoseViewInABox(); };
+    EXPECT_TRUE(User().Press(kFirstButton));
+    EXPECT_EQ(m_handler.events, Events{"command 309"});
+    EXPECT_EQ(m_driver->Boxes().size(), 2u);
+}
+
+TEST_F(ControlsTest, ViewMayBeDestroyedInABoxOfItsMnemonic) {
+    Show();
+    m_handler.onCommand = [this](panel::ControlId) { LoseViewInABox(); };
+    EXPECT_TRUE(User().PressMnemonic('f'));
+    EXPECT_EQ(m_handler.events, Events{"command 309"});
+    EXPECT_EQ(m_driver->Boxes().size(), 2u);
+}
+
+TEST_F(ControlsTest, ViewMayBeDestroyedInABoxOfItsHelpRequest) {
+    Show();
+    View().SetFocus(kManyList);
+    m_handler.onHelp = [this] { LoseViewInABox(); };
+    User().RequestHelp();
+    EXPECT_EQ(m_handler.events, Events{"help 78"});
+    EXPECT_EQ(m_driver->Boxes().size(), 2u);
+}
+
 }
 
 }

@@ -88,6 +88,13 @@ TEST_F(FieldsTest, ViewMayBeDestroyedInsideItsToggle) {
     EXPECT_EQ(m_view, nullptr);
 }
 
+TEST_F(FieldsTest, ViewMayBeDestroyedInABoxOfItsToggle) {
+    m_handler.onCommand = [this](panel::ControlId) { LoseViewInABox(); };
+    EXPECT_TRUE(User().Toggle(kCheck));
+    EXPECT_EQ(m_handler.events, Events{"command 317"});
+    EXPECT_EQ(m_driver->Boxes().size(), 2u);
+}
+
 // Address field
 
 TEST_F(FieldsTest, AddressIsZeroAtFirst) { EXPECT_EQ(View().GetAddress(kAddress), 0u); }

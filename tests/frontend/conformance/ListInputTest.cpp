@@ -181,6 +181,20 @@ TEST_F(ListInputTest, ViewMayBeDestroyedInsideItsRightClick) {
     EXPECT_EQ(m_handler.events, Events{"right click on 305"});
 }
 
+TEST_F(ListInputTest, ViewMayBeDestroyedInABoxOfItsKey) {
+    m_handler.onListKeyDown = [this](auto...) { LoseViewInABox(); };
+    EXPECT_TRUE(User().PressKeyInList(kManyList, kDownKey));
+    EXPECT_EQ(m_handler.events, Events{"key 40 in 305"});
+    EXPECT_EQ(m_driver->Boxes().size(), 2u);
+}
+
+TEST_F(ListInputTest, ViewMayBeDestroyedInABoxOfItsRightClick) {
+    m_handler.onListRightClick = [this](auto) { LoseViewInABox(); };
+    EXPECT_TRUE(User().RightClickRow(kManyList, 2));
+    EXPECT_EQ(m_handler.events, Events{"right click on 305"});
+    EXPECT_EQ(m_driver->Boxes().size(), 2u);
+}
+
 }
 
 }

@@ -40,6 +40,7 @@ void CRecordingHandler::OnListRightClick(panel::ControlId list, panel::Point scr
 
 void CRecordingHandler::OnHelp(std::uint32_t context) {
     events.push_back("help " + std::to_string(context));
+    Run(onHelp);
 }
 
 }

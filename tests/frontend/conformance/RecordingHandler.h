@@ -18,6 +18,7 @@ public:
     std::function<void(panel::ControlId)> onCommand;
     std::function<void(panel::ControlId, std::uint16_t)> onListKeyDown;
     std::function<void(panel::ControlId)> onListRightClick;
+    std::function<void()> onHelp;
 
     void OnInit(panel::IView& view) override;
     void OnCommand(panel::ControlId id) override;
