@@ -28,6 +28,11 @@ void ExpectReset(CExpectation& panel) {
     }
 }
 
+/// A failure is passed over in silence.
+void ExpectClose(CExpectation& panel) {
+    panel.CallInTurn({"Context.QueryHostViewControl", "HostViewControl.ClosePanel"});
+}
+
 struct Command {
     panel::ControlId button;
     void (*expect)(CExpectation&);
@@ -37,6 +42,7 @@ constexpr Command kCommands[] = {
     {panel::kDetailsButton, ExpectDetails}, {panel::kUpdateButton, ExpectUpdate},
     {panel::kDeleteButton, ExpectDeletion}, {panel::kReportButton, ExpectReport},
     {panel::kResetButton, ExpectReset},     {panel::kNetworkButton, ExpectNetwork},
+    {panel::kCloseButton, ExpectClose},
 };
 
 }

@@ -98,6 +98,7 @@ void PressUpdate(IStage& stage) { stage.PressButton(panel::kUpdateButton); }
 void PressReport(IStage& stage) { stage.PressButton(panel::kReportButton); }
 void PressReset(IStage& stage) { stage.PressButton(panel::kResetButton); }
 void PressNetwork(IStage& stage) { stage.PressButton(panel::kNetworkButton); }
+void PressClose(IStage& stage) { stage.PressButton(panel::kCloseButton); }
 
 /// What a host does for its user after a command went wrong: the device arrives, and the command is
 /// given once more.
@@ -155,6 +156,7 @@ const std::vector<Scenario> kCommandRows{
     Command<DeleteAll>("DeleteAll", kAllModels, kNormal),
     Command<PressReset>("Reset", kAllModels, kAllModes),
     Command<PressReport>("Report", kAllModels, kAllModes),
+    Command<PressClose>("Close", kAllModels, kAllModes),
     Updating(Command<PressUpdate>("Update", kAllModels, kAllModes)),
     AcceptedOffer(),
     // The only way to an offer for a device of an unknown model.
