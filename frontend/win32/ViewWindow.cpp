@@ -52,7 +52,15 @@ void CViewWindow::Destroy() {
         return;
     }
     ShowWindow(m_window, SW_HIDE);
-    PostMessageW(m_window, kEndMessage, 0, 0);
+    m_isEnding = true;
+}
+
+// The control that sent the notification is not done with it yet. A message loop that runs inside
+// the notification, a box's, must not end the window either.
+void CViewWindow::EndNotification() {
+    if (--m_notifications == 0 && m_isEnding) {
+        PostMessageW(m_window, kEndMessage, 0, 0);
+    }
 }
 
 LRESULT CALLBACK CViewWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,

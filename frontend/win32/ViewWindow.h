@@ -48,13 +48,14 @@ private:
     void HandleListKey(panel::ControlId list, std::uint16_t virtualKey);
     void HandleHelp(const HELPINFO& request);
     void ReportSize(panel::Size size);
+    void EndNotification();
 
     template <class... Parameters, class... Arguments>
     void Notify(void (panel::IDialogHandler::*event)(Parameters...), Arguments... arguments) {
         if (m_handler) {
             ++m_notifications;
             (m_handler->*event)(arguments...);
-            --m_notifications;
+            EndNotification();
         }
     }
 
@@ -66,6 +67,7 @@ private:
     panel::Size m_reportedSize;
     int m_notifications = 0;
     bool m_acceptsCancel = false;
+    bool m_isEnding = false;
 };
 
 panel::Size ClientSizeOf(HWND window);
