@@ -14,6 +14,7 @@ namespace {
 // As long as a path can be at all: the panel's own, smaller, limit is looked at when one is chosen.
 constexpr std::size_t kLongestPath = 32768;
 constexpr std::size_t kExtensionLength = 3;
+constexpr UINT_PTR kSubclass = 1;
 
 std::wstring JoinFilters(const std::vector<panel::FileFilter>& filters) {
     std::wstring joined;
@@ -131,6 +132,8 @@ UINT_PTR CALLBACK CFileDialog::Hook(HWND options, UINT message, WPARAM, LPARAM l
 
 bool CFileDialog::OnNotification(HWND options, const NMHDR& notification) {
     if (notification.code == static_cast<UINT>(CDN_INITDONE)) {
+        SetWindowSubclass(GetParent(options), AnswerHelp, kSubclass,
+                          reinterpret_cast<DWORD_PTR>(this));
         m_dialog.optionsHandler->OnInit(*m_options);
         return true;
     }
@@ -139,6 +142,20 @@ bool CFileDialog::OnNotification(HWND options, const NMHDR& notification) {
     }
     SetWindowLongPtrW(options, DWLP_MSGRESULT, TRUE);
     return true;
+}
+
+// The focus starts in the field for the name, which belongs to the system's window: help asked for
+// there is answered by the options, as help on none of their controls.
+LRESULT CALLBACK CFileDialog::AnswerHelp(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
+                                         UINT_PTR identifier, DWORD_PTR reference) {
+    if (message == WM_HELP) {
+        reinterpret_cast<CFileDialog*>(reference)->m_dialog.optionsHandler->OnHelp(0);
+        return TRUE;
+    }
+    if (message == WM_NCDESTROY) {
+        RemoveWindowSubclass(dialog, AnswerHelp, identifier);
+    }
+    return DefSubclassProc(dialog, message, wParam, lParam);
 }
 
 // A path that is too long ends the dialog whatever its options are.

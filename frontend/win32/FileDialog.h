@@ -20,6 +20,8 @@ public:
 
 private:
     static UINT_PTR CALLBACK Hook(HWND options, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK AnswerHelp(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
+                                       UINT_PTR identifier, DWORD_PTR reference);
     OPENFILENAMEW Request(HWND owner);
     bool OnNotification(HWND options, const NMHDR& notification);
     bool IsAccepted() const;
