@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frontend/common/Files.h"
 #include "frontend/headless/HeadlessDesktop.h"
 #include "frontend/headless/HeadlessView.h"
 #include "panel/control/FileDialog.h"
@@ -36,6 +37,10 @@ public:
     panel::FileOutcome OpenFile(const panel::FileDialog& dialog) override;
     panel::FileOutcome SaveFile(const panel::FileDialog& dialog) override;
     char GetPathSeparator() const override { return m_desktop->pathSeparator; }
+    std::string GetCurrentFolder() const override { return common::GetCurrentFolder(); }
+    bool WriteFile(const std::string& path, std::string_view content) override {
+        return common::WriteFile(path, content);
+    }
     panel::LocalTime GetLocalTime() const override { return m_desktop->now; }
     panel::IRegistry& Registry() override { return m_desktop->registry; }
     void PushWaitCursor() override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frontend/common/Files.h"
 #include "frontend/registry/FileRegistry.h"
 #include "panel/control/FileDialog.h"
 #include "panel/control/PopupMenu.h"
@@ -33,6 +34,10 @@ public:
     panel::FileOutcome OpenFile(const panel::FileDialog& dialog) override;
     panel::FileOutcome SaveFile(const panel::FileDialog& dialog) override;
     char GetPathSeparator() const override { return '/'; }
+    std::string GetCurrentFolder() const override { return common::GetCurrentFolder(); }
+    bool WriteFile(const std::string& path, std::string_view content) override {
+        return common::WriteFile(path, content);
+    }
     panel::LocalTime GetLocalTime() const override;
     /// Kept in a file; which one is settled when the toolkit is made.
     panel::IRegistry& Registry() override { return m_registry; }

@@ -3,11 +3,9 @@
 #include "frontend/win32/ActivationContext.h"
 #include "frontend/win32/HelpText.h"
 #include "frontend/win32/Module.h"
+#include "frontend/win32/SystemFile.h"
 #include "frontend/win32/Text.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <optional>
 
 namespace win32 {
@@ -32,14 +30,6 @@ struct EmptyDialog {
 
 constexpr EmptyDialog kWindow{
     {WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT, 0, 0, 0, 0, 0}, 0, 0, 0};
-
-std::optional<std::string> ReadFile(const std::string& file) {
-    std::ifstream stream(std::filesystem::path(ToWide(file)), std::ios::binary);
-    if (!stream) {
-        return std::nullopt;
-    }
-    return std::string(std::istreambuf_iterator<char>(stream), {});
-}
 
 // No loop of the host's hands keys to this window as to a dialog.
 LRESULT CALLBACK DialogKeys(HWND control, UINT message, WPARAM wParam, LPARAM lParam,
@@ -163,7 +153,7 @@ void CHelpWindow::Arrange() {
 void CHelpWindow::Read(const std::string& file) {
     m_topics.clear();
     m_fault.clear();
-    if (const std::optional<std::string> text = ReadFile(file)) {
+    if (const std::optional<std::string> text = ReadWholeFile(file)) {
         m_topics = help::ParseHelp(*text);
     } else {
         m_fault = "The help file was not found. It was looked for here:\n\n" + file;

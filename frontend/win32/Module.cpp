@@ -14,7 +14,7 @@ HMODULE OwnModule() {
 }
 
 // The system cuts a path that does not fit without saying how long it is.
-std::filesystem::path OwnModuleFile() {
+std::wstring OwnModuleFile() {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {
         const DWORD room = static_cast<DWORD>(path.size());

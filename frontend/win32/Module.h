@@ -2,13 +2,13 @@
 
 #include "frontend/win32/WinApi.h"
 
-#include <filesystem>
+#include <string>
 
 namespace win32 {
 
 /// The library or program that contains this code.
 HMODULE OwnModule();
 /// Its file; empty when the system does not tell.
-std::filesystem::path OwnModuleFile();
+std::wstring OwnModuleFile();
 
 }

@@ -116,7 +116,8 @@ void CWin32Toolkit::ShowHelp(const std::string& file, std::uint32_t context, pan
 }
 
 std::string CWin32Toolkit::GetComponentFolder() const {
-    return FromWide(OwnModuleFile().parent_path().wstring());
+    const std::wstring file = OwnModuleFile();
+    return FromWide(file.substr(0, file.find_last_of(L'\\')));
 }
 
 panel::FontMetrics CWin32Toolkit::MeasureFont() const { return win32::MeasureFont(); }

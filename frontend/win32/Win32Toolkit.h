@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frontend/win32/CursorStack.h"
+#include "frontend/win32/SystemFile.h"
 #include "frontend/win32/SystemRegistry.h"
 #include "panel/control/FileDialog.h"
 #include "panel/control/PopupMenu.h"
@@ -14,7 +15,7 @@ class CWin32View;
 
 /// The toolkit made of the system's own controls and dialogs. Its thread is a single-threaded
 /// apartment with a message loop, which hands the keys of the view's window to IsDialogMessage.
-class CWin32Toolkit final : public panel::IToolkit {
+class CWin32Toolkit : public panel::IToolkit {
 public:
     CWin32Toolkit();
     ~CWin32Toolkit() override;
@@ -31,6 +32,10 @@ public:
     panel::FileOutcome OpenFile(const panel::FileDialog& dialog) override;
     panel::FileOutcome SaveFile(const panel::FileDialog& dialog) override;
     char GetPathSeparator() const override { return '\\'; }
+    std::string GetCurrentFolder() const override { return win32::GetCurrentFolder(); }
+    bool WriteFile(const std::string& path, std::string_view content) override {
+        return WriteWholeFile(path, content);
+    }
     panel::LocalTime GetLocalTime() const override;
     panel::IRegistry& Registry() override { return m_registry; }
     void PushWaitCursor() override;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace panel {
 
@@ -75,6 +76,12 @@ public:
     virtual FileOutcome SaveFile(const FileDialog& dialog) = 0;
     /// What stands between the folders of the paths that the file dialogs deliver.
     virtual char GetPathSeparator() const = 0;
+
+    /// The process's current folder; empty when the system does not tell.
+    virtual std::string GetCurrentFolder() const = 0;
+    /// Replaces what is in the file at `path`, or makes the file. False when it cannot be opened,
+    /// which leaves it as it is; errors while writing are ignored.
+    virtual bool WriteFile(const std::string& path, std::string_view content) = 0;
 
     /// Now.
     virtual LocalTime GetLocalTime() const = 0;
