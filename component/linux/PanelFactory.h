@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/linux/ModuleUse.h"
+#include "component/common/ModuleUse.h"
 #include "contract/panel/PanelFactory.h"
 
 namespace component {

@@ -1,4 +1,4 @@
-#include "component/linux/ModuleUse.h"
+#include "component/common/ModuleUse.h"
 
 namespace component {
 

@@ -1,0 +1,10 @@
+#include "component/win32/com/ComObject.h"
+
+namespace component {
+
+CModuleUse& Module() {
+    static CModuleUse module;
+    return module;
+}
+
+}

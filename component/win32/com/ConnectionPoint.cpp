@@ -1,0 +1,159 @@
+#include "component/win32/com/ConnectionPoint.h"
+
+#include "component/win32/com/ComCall.h"
+#include "component/win32/com/ComObject.h"
+#include "component/win32/com/Enumeration.h"
+#include "component/win32/com/Variant.h"
+
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace component {
+
+namespace {
+
+using contract::Status;
+
+/// Base of the sinks that the contract's sources call: each event is a call by number. Holds the
+/// list that its own sink stands in.
+template <class Events>
+class CEventCaller : public Events {
+public:
+    CEventCaller(ComPtr<IDispatch> sink, std::shared_ptr<Subscriptions> subscriptions)
+        : m_sink(std::move(sink)), m_subscriptions(std::move(subscriptions)) {}
+
+protected:
+    template <class... Parameters>
+    Status Fire(DISPID number, const Parameters&... parameters) {
+        // By number, arguments are passed from the last to the first.
+        std::array<CVariant, sizeof...(Parameters)> values{CVariant(parameters)...};
+        std::array<VARIANT, sizeof...(Parameters)> reversed;
+        for (std::size_t index = 0; index < values.size(); ++index) {
+            reversed[values.size() - 1 - index] = values[index].Get();
+        }
+        DISPPARAMS given{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
+        const ComPtr<IDispatch> sink = m_sink;
+        return Status(sink->Invoke(number, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &given,
+                                   nullptr, nullptr, nullptr));
+    }
+
+private:
+    const ComPtr<IDispatch> m_sink;
+    const std::shared_ptr<Subscriptions> m_subscriptions;
+};
+
+#define EVENT_INTERFACE(events)                                                                    \
+    class CCallerOf##events final : public CEventCaller<contract::events> {                        \
+    public:                                                                                        \
+        using CEventCaller::CEventCaller;
+#define EVENT1(number, name, A)                                                                    \
+    Status name(A a) override { return Fire(number, a); }
+#define EVENT2(number, name, A, B)                                                                 \
+    Status name(A a, B b) override { return Fire(number, a, b); }
+#define EVENT3(number, name, A, B, C)                                                              \
+    Status name(A a, B b, C c) override { return Fire(number, a, b, c); }
+#define EVENTS_END                                                                                 \
+    }                                                                                              \
+    ;
+#include "component/win32/com/InterfaceTable.inc"
+
+struct HeldConnection {
+    ComPtr<IUnknown> sink;
+    DWORD cookie;
+
+    CONNECTDATA Copy() const {
+        sink->AddRef();
+        return {sink.Get(), cookie};
+    }
+};
+
+template <class Events, class Caller>
+class CConnectionPoint final : public IConnectionPoint {
+public:
+    CConnectionPoint(ComPtr<IConnectionPointContainer> container,
+                     std::shared_ptr<contract::IEventSource<Events>> source,
+                     std::shared_ptr<Subscriptions> subscriptions)
+        : m_container(std::move(container)),
+          m_source(std::move(source)),
+          m_subscriptions(std::move(subscriptions)) {}
+    virtual ~CConnectionPoint() = default;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** result) override {
+        return AnswerQuery<IConnectionPoint>(this, identifier, result);
+    }
+    HRESULT STDMETHODCALLTYPE GetConnectionInterface(IID* identifier) override {
+        return identifier ? (*identifier = __uuidof(ComOf<Events>), S_OK) : E_POINTER;
+    }
+    HRESULT STDMETHODCALLTYPE
+    GetConnectionPointContainer(IConnectionPointContainer** container) override {
+        return m_container.CopyTo(container);
+    }
+    HRESULT STDMETHODCALLTYPE Advise(IUnknown* sink, DWORD* cookie) override {
+        if (!sink || !cookie) {
+            return E_POINTER;
+        }
+        ComPtr<IDispatch> dispatch;
+        if (FAILED(sink->QueryInterface(__uuidof(ComOf<Events>),
+                                        reinterpret_cast<void**>(dispatch.GetAddressOf()))) &&
+            FAILED(sink->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) {
+            return CONNECT_E_CANNOTCONNECT;
+        }
+        return Guarded(IID_IConnectionPoint, [&] { return Subscribe(dispatch, *cookie); });
+    }
+    HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) override {
+        return Guarded(IID_IConnectionPoint, [&]() -> HRESULT {
+            const ComPtr<IUnknown> self(this);
+            if (m_subscriptions->erase(cookie) == 0) {
+                return CONNECT_E_NOCONNECTION;
+            }
+            return m_source->Unsubscribe(cookie).Code();
+        });
+    }
+    HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** connections) override {
+        if (!connections) {
+            return E_POINTER;
+        }
+        return Guarded(IID_IConnectionPoint, [&] {
+            std::vector<HeldConnection> held;
+            for (const auto& [cookie, sink] : *m_subscriptions) {
+                held.push_back({sink, cookie});
+            }
+            *connections =
+                MakeCom<CEnumeration<IEnumConnections, CONNECTDATA, HeldConnection>>(held).Detach();
+            return S_OK;
+        });
+    }
+
+private:
+    HRESULT Subscribe(const ComPtr<IDispatch>& sink, DWORD& cookie) {
+        std::uint32_t delivered = 0;
+        const Status status =
+            m_source->Subscribe(std::make_shared<Caller>(sink, m_subscriptions), delivered);
+        if (status.IsSuccess()) {
+            (*m_subscriptions)[delivered] = sink;
+            cookie = delivered;
+        }
+        return status.Code();
+    }
+
+    const ComPtr<IConnectionPointContainer> m_container;
+    const std::shared_ptr<contract::IEventSource<Events>> m_source;
+    const std::shared_ptr<Subscriptions> m_subscriptions;
+
+    KRX8_COUNTED_REFERENCES(CConnectionPoint)
+};
+
+}
+
+#define EVENT_INTERFACE(events)                                                                    \
+    ComPtr<IConnectionPoint> MakeConnectionPoint(                                                  \
+        ComPtr<IConnectionPointContainer> container,                                               \
+        std::shared_ptr<contract::IEventSource<contract::events>> source,                          \
+        std::shared_ptr<Subscriptions> subscriptions) {                                            \
+        return MakeCom<CConnectionPoint<contract::events, CCallerOf##events>>(                     \
+            std::move(container), std::move(source), std::move(subscriptions));                    \
+    }
+#include "component/win32/com/InterfaceTable.inc"
+
+}

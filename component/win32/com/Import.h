@@ -1,0 +1,81 @@
+#pragma once
+
+#include "component/win32/com/Arguments.h"
+#include "component/win32/com/ComCall.h"
+
+#include <memory>
+#include <utility>
+
+namespace component {
+
+/// Base of an object of the contract that stands for one of COM.
+template <class Interface>
+class CImport : public Interface {
+public:
+    CImport(std::shared_ptr<CBridge> bridge, ComPtr<ComOf<Interface>> target)
+        : m_bridge(std::move(bridge)), m_target(std::move(target)) {}
+    ~CImport() override { m_bridge->template ForgetImport<Interface>(m_target.Get()); }
+    CImport(const CImport&) = delete;
+    CImport& operator=(const CImport&) = delete;
+
+protected:
+    using Com = ComOf<Interface>;
+
+    /// Calls an operation whose parameters in the contract are `Parameters`.
+    template <class... Parameters, class Method, class... Arguments>
+    contract::Status Call(Method method, Arguments&&... arguments) {
+        return CallWith(method, typename Crossing<Parameters>::Outgoing(*m_bridge, arguments)...);
+    }
+
+    /// Asks for another interface.
+    template <class Other>
+    contract::Status Query(std::shared_ptr<Other>& result) {
+        return Deliver(result, [&](void** object) {
+            return m_target->QueryInterface(__uuidof(ComOf<Other>), object);
+        });
+    }
+
+    /// Asks for an object by its class.
+    template <class Other>
+    contract::Status Create(REFCLSID identifier, std::shared_ptr<Other>& result) {
+        return Deliver(result, [&](void** object) {
+            return CoCreateInstance(identifier, nullptr, CLSCTX_ALL, __uuidof(ComOf<Other>),
+                                    object);
+        });
+    }
+
+    CBridge& Bridge() const { return *m_bridge; }
+    const std::shared_ptr<CBridge>& SharedBridge() const { return m_bridge; }
+    Com* Target() const { return m_target.Get(); }
+
+private:
+    template <class Method, class... Crossings>
+    contract::Status CallWith(Method method, Crossings&&... crossings) {
+        ClearComErrorInfo();
+        const HRESULT result = (m_target.Get()->*method)(crossings.Get()...);
+        if (SUCCEEDED(result)) {
+            (crossings.Deliver(), ...);
+        } else {
+            TakeComErrorInfo();
+        }
+        return contract::Status(result);
+    }
+
+    template <class Other, class Request>
+    contract::Status Deliver(std::shared_ptr<Other>& result, Request request) {
+        ComPtr<ComOf<Other>> object;
+        ClearComErrorInfo();
+        const HRESULT status = request(reinterpret_cast<void**>(object.GetAddressOf()));
+        if (SUCCEEDED(status)) {
+            result = m_bridge->template Import<Other>(object.Get());
+        } else {
+            TakeComErrorInfo();
+        }
+        return contract::Status(status);
+    }
+
+    const std::shared_ptr<CBridge> m_bridge;
+    const ComPtr<Com> m_target;
+};
+
+}

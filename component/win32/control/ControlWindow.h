@@ -1,0 +1,56 @@
+#pragma once
+
+#include "component/win32/com/ComObject.h"
+
+#include <functional>
+#include <memory>
+
+namespace component {
+
+/// The control's window in its container, the frame around the panel's view.
+///
+/// It outlives what owns it where that ends inside one of the window's own messages: it then goes
+/// with the next ones, and keeps the library loaded until it has gone.
+class CControlWindow {
+public:
+    struct Events {
+        std::function<void(SIZE client)> onResized;
+        /// The user has clicked into it.
+        std::function<void()> onMouseActivated;
+        /// It is gone, with its parent perhaps.
+        std::function<void()> onDestroyed;
+    };
+
+    /// Hidden, below `parent`. Null when the system makes none.
+    static std::unique_ptr<CControlWindow> Create(HWND parent, Events events);
+    ~CControlWindow();
+    CControlWindow(const CControlWindow&) = delete;
+    CControlWindow& operator=(const CControlWindow&) = delete;
+
+    /// Null once it is gone.
+    HWND Get() const;
+    /// The panel's view in it; null when there is none.
+    HWND GetView() const;
+
+    /// Shows it below `parent`, or hides it where no container sees it.
+    void ShowIn(HWND parent);
+    void Park();
+
+    /// Places it, and cuts off what is outside of `clip`; both in the client area of its parent.
+    void Place(const RECT& place, const RECT& clip);
+    /// Gives the focus to the view, unless a control in it has it.
+    void TakeFocus();
+    bool HasFocus() const;
+
+private:
+    class CProcedure;
+
+    explicit CControlWindow(std::shared_ptr<CProcedure> procedure);
+
+    const std::shared_ptr<CProcedure> m_procedure;
+};
+
+/// Takes back what the windows of this library needed of the system; for the end of the library.
+void ForgetControlWindows();
+
+}

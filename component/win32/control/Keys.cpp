@@ -1,0 +1,81 @@
+#include "component/win32/control/Keys.h"
+
+#include "panel/control/PanelTemplate.h"
+
+#include <string_view>
+
+namespace component {
+
+namespace {
+
+/// Where a control stands among its view's, in the order of Tab; windows of no view stand last.
+int PositionOf(HWND view, HWND control) {
+    int position = 0;
+    for (HWND window = GetWindow(view, GW_CHILD); window && window != control;
+         window = GetWindow(window, GW_HWNDNEXT)) {
+        ++position;
+    }
+    return position;
+}
+
+// The system's search goes round from the last control to the first.
+bool LeavesView(HWND view, bool isBackwards) {
+    const HWND focused = GetFocus();
+    const int from = PositionOf(view, focused);
+    const int next = PositionOf(view, GetNextDlgTabItem(view, focused, isBackwards));
+    return isBackwards ? next >= from : next <= from;
+}
+
+bool IsForView(HWND view, WPARAM key) {
+    switch (key) {
+    case VK_TAB:
+        return GetKeyState(VK_CONTROL) >= 0 && !LeavesView(view, GetKeyState(VK_SHIFT) < 0);
+    case VK_LEFT:
+    case VK_UP:
+    case VK_RIGHT:
+    case VK_DOWN:
+    case VK_RETURN:
+    case VK_F1:
+        return true;
+    default:
+        return false;
+    }
+}
+
+}
+
+bool IsForView(HWND view, const MSG& message) {
+    switch (message.message) {
+    case WM_KEYDOWN:
+        return IsForView(view, message.wParam);
+    case WM_CHAR:
+    case WM_SYSCHAR:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool HandOn(HWND view, MSG& message) {
+    if (message.message == WM_KEYDOWN && message.wParam == VK_F1) {
+        // The control that has the focus makes a help request of it.
+        DispatchMessageW(&message);
+        return true;
+    }
+    return IsDialogMessageW(view, &message) != FALSE;
+}
+
+std::vector<ACCEL> Mnemonics() {
+    std::vector<ACCEL> mnemonics;
+    for (const panel::ControlTemplate& control : panel::kPanelTemplate.controls) {
+        const std::string_view text = control.text;
+        const std::size_t mark = text.find('&');
+        if (mark + 1 < text.size() && mark != std::string_view::npos) {
+            const auto key = static_cast<WORD>(VkKeyScanW(static_cast<wchar_t>(text[mark + 1])));
+            mnemonics.push_back({FALT | FVIRTKEY, static_cast<WORD>(LOBYTE(key)), control.id});
+        }
+    }
+    return mnemonics;
+}
+
+}

@@ -1,0 +1,52 @@
+#include "component/win32/control/OleControl.h"
+
+#include "component/win32/control/Keys.h"
+
+namespace component {
+
+COleControl::~COleControl() { DestroyAcceleratorTable(m_mnemonics); }
+
+// The table belongs to the control; containers copy it.
+HRESULT COleControl::GetControlInfo(CONTROLINFO* info) {
+    if (!info || info->cb < sizeof *info) {
+        return E_POINTER;
+    }
+    return Enter([&]() -> HRESULT {
+        std::vector<ACCEL> mnemonics = Mnemonics();
+        if (!m_mnemonics) {
+            m_mnemonics =
+                CreateAcceleratorTableW(mnemonics.data(), static_cast<int>(mnemonics.size()));
+        }
+        info->hAccel = m_mnemonics;
+        info->cAccel = static_cast<USHORT>(mnemonics.size());
+        info->dwFlags = 0;
+        return m_mnemonics ? S_OK : E_OUTOFMEMORY;
+    });
+}
+
+// Containers pass on the key that they have found in the table.
+HRESULT COleControl::OnMnemonic(MSG* message) {
+    if (!message) {
+        return E_POINTER;
+    }
+    return Enter([&] {
+        const HWND view = m_activation.GetView();
+        for (const ACCEL& mnemonic : Mnemonics()) {
+            const HWND button = view ? GetDlgItem(view, mnemonic.cmd) : nullptr;
+            if (mnemonic.key == message->wParam && IsWindowEnabled(button) &&
+                IsWindowVisible(button)) {
+                SendMessageW(button, BM_CLICK, 0, 0);
+                break;
+            }
+        }
+        return S_OK;
+    });
+}
+
+// Its fonts and colours are the system's, whatever the container's are.
+HRESULT COleControl::OnAmbientPropertyChange(DISPID) { return S_OK; }
+
+// It raises none.
+HRESULT COleControl::FreezeEvents(BOOL) { return S_OK; }
+
+}

@@ -1,0 +1,170 @@
+#include "component/win32/control/OleObject.h"
+
+#include "component/win32/com/Identifiers.h"
+#include "panel/registration/ComponentIdentity.h"
+
+#include <cwchar>
+
+namespace component {
+
+namespace {
+
+constexpr wchar_t kUserType[] = L"KRX8Maintenance Class";
+
+HRESULT CopyText(const wchar_t* text, LPOLESTR* copy) {
+    const std::size_t bytes = (std::wcslen(text) + 1) * sizeof(wchar_t);
+    *copy = static_cast<LPOLESTR>(CoTaskMemAlloc(bytes));
+    if (!*copy) {
+        return E_OUTOFMEMORY;
+    }
+    std::wmemcpy(*copy, text, bytes / sizeof(wchar_t));
+    return S_OK;
+}
+
+}
+
+HRESULT COleObject::SetClientSite(IOleClientSite* site) {
+    return Enter([&] {
+        if (!site) {
+            m_activation.Deactivate();
+        }
+        m_site.Set(site);
+        return S_OK;
+    });
+}
+
+HRESULT COleObject::GetClientSite(IOleClientSite** site) {
+    if (!site) {
+        return E_POINTER;
+    }
+    *site = m_site.Get();
+    if (*site) {
+        (*site)->AddRef();
+    }
+    return S_OK;
+}
+
+// It shows no name of its container anywhere.
+HRESULT COleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
+
+HRESULT COleObject::Close(DWORD saveOption) {
+    return Enter([&] {
+        // What it keeps in a container's file is its size alone, which is nothing to ask about.
+        if (saveOption != OLECLOSE_NOSAVE && m_site.Get()) {
+            m_site.Get()->SaveObject();
+        }
+        m_activation.Close();
+        m_site.TellClosed();
+        return S_OK;
+    });
+}
+
+HRESULT COleObject::SetMoniker(DWORD, IMoniker*) { return E_NOTIMPL; }
+
+HRESULT COleObject::GetMoniker(DWORD, DWORD, IMoniker** moniker) {
+    return moniker ? (*moniker = nullptr, E_NOTIMPL) : E_POINTER;
+}
+
+HRESULT COleObject::InitFromData(IDataObject*, BOOL, DWORD) { return E_NOTIMPL; }
+
+HRESULT COleObject::GetClipboardData(DWORD, IDataObject** data) {
+    return data ? (*data = nullptr, E_NOTIMPL) : E_POINTER;
+}
+
+HRESULT COleObject::DoVerb(LONG verb, MSG*, IOleClientSite* activeSite, LONG, HWND, LPCRECT) {
+    return Enter([&]() -> HRESULT {
+        IOleClientSite* const site = m_site.Get() ? m_site.Get() : activeSite;
+        switch (verb) {
+        case OLEIVERB_PRIMARY:
+        case OLEIVERB_SHOW:
+        case OLEIVERB_OPEN:
+        case OLEIVERB_UIACTIVATE:
+            return m_activation.Activate(site, true);
+        case OLEIVERB_INPLACEACTIVATE:
+            return m_activation.Activate(site, false);
+        case OLEIVERB_HIDE:
+            return Hide();
+        case OLEIVERB_DISCARDUNDOSTATE:
+            return S_OK;
+        default:
+            return verb < 0 ? E_NOTIMPL : OLEOBJ_S_INVALIDVERB;
+        }
+    });
+}
+
+HRESULT COleObject::Hide() {
+    m_activation.Deactivate();
+    if (m_site.Get()) {
+        m_site.Get()->OnShowWindow(FALSE);
+    }
+    return S_OK;
+}
+
+// There are none for a menu.
+HRESULT COleObject::EnumVerbs(IEnumOLEVERB** verbs) {
+    return verbs ? (*verbs = nullptr, OLEOBJ_E_NOVERBS) : E_POINTER;
+}
+
+HRESULT COleObject::Update() { return S_OK; }
+
+HRESULT COleObject::IsUpToDate() { return S_OK; }
+
+HRESULT COleObject::GetUserClassID(CLSID* identifier) {
+    return identifier ? (*identifier = ToGuid(panel::kMaintenanceClass), S_OK) : E_POINTER;
+}
+
+HRESULT COleObject::GetUserType(DWORD, LPOLESTR* name) {
+    return name ? CopyText(kUserType, name) : E_POINTER;
+}
+
+HRESULT COleObject::SetExtent(DWORD aspect, SIZEL* extent) {
+    if (aspect != DVASPECT_CONTENT) {
+        return DV_E_DVASPECT;
+    }
+    if (!extent) {
+        return E_POINTER;
+    }
+    return Enter([&] {
+        m_site.SetExtent(*extent);
+        m_site.TellViewChanged();
+        return S_OK;
+    });
+}
+
+HRESULT COleObject::GetExtent(DWORD aspect, SIZEL* extent) {
+    if (aspect != DVASPECT_CONTENT) {
+        return DV_E_DVASPECT;
+    }
+    return extent ? (*extent = m_site.GetExtent(), S_OK) : E_POINTER;
+}
+
+HRESULT COleObject::Advise(IAdviseSink* sink, DWORD* cookie) {
+    if (!sink || !cookie) {
+        return E_POINTER;
+    }
+    return m_site.Listeners() ? m_site.Listeners()->Advise(sink, cookie) : E_OUTOFMEMORY;
+}
+
+HRESULT COleObject::Unadvise(DWORD cookie) {
+    return m_site.Listeners() ? m_site.Listeners()->Unadvise(cookie) : E_OUTOFMEMORY;
+}
+
+HRESULT COleObject::EnumAdvise(IEnumSTATDATA** sinks) {
+    if (!sinks) {
+        return E_POINTER;
+    }
+    *sinks = nullptr;
+    return m_site.Listeners() ? m_site.Listeners()->EnumAdvise(sinks) : E_OUTOFMEMORY;
+}
+
+HRESULT COleObject::GetMiscStatus(DWORD aspect, DWORD* status) {
+    if (!status) {
+        return E_POINTER;
+    }
+    *status = aspect == DVASPECT_CONTENT ? panel::kMiscStatus : 0;
+    return aspect == DVASPECT_CONTENT ? S_OK : DV_E_DVASPECT;
+}
+
+HRESULT COleObject::SetColorScheme(LOGPALETTE*) { return E_NOTIMPL; }
+
+}
