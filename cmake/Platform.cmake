@@ -3,6 +3,13 @@ if(NOT WIN32)
   return()
 endif()
 
+# An archive holds the libraries for both kinds of hosts.
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+  set(KRX8_LIBRARY_FOLDER x64)
+else()
+  set(KRX8_LIBRARY_FOLDER x86)
+endif()
+
 enable_language(RC)
 # Objects with templates pass the old format's limit of sections.
 add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-Wa,-mbig-obj>)
