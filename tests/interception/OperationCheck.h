@@ -6,6 +6,7 @@
 #include "tests/interception/HostTargets.h"
 #include "tests/interception/InformationTargets.h"
 
+#include <functional>
 #include <ostream>
 #include <string>
 #include <tuple>
@@ -28,12 +29,23 @@ struct Outcome {
     std::string null;
 };
 
-/// Calls an operation with sample arguments through the wrapper of a fresh target.
+/// What the target does when it is called.
+struct Answer {
+    Answer(contract::Status answered, std::function<void()> done = {})
+        : status(answered), whileCalled(std::move(done)) {}
+
+    contract::Status status;
+    std::function<void()> whileCalled;
+};
+
+/// Calls an operation with sample arguments through what a passage, such as CInterception, makes of
+/// a fresh target with its Wrap.
 template <auto method>
 class COperationCheck {
 public:
-    static Outcome Run(const CInterception& interception, contract::Status answer) {
-        return RunAs(method, interception, answer);
+    template <class Passage>
+    static Outcome Run(const Passage& passage, const Answer& answer) {
+        return RunAs(method, passage, answer);
     }
 
     /// What the operation delivers, by its signature.
@@ -58,15 +70,14 @@ private:
         }
     }
 
-    /// How `value` looks on the other side of the interception.
-    template <class T>
-    static T Across(const CInterception& interception, const T& value) {
-        if constexpr (kIsReference<T>) {
-            if constexpr (Wrappable<typename T::element_type>) {
-                return interception.Wrap(value);
-            }
+    /// How `value` looks on the other side of the passage.
+    template <class Passage, class T>
+    static T Across(const Passage& passage, const T& value) {
+        if constexpr (requires { passage.Wrap(value); }) {
+            return passage.Wrap(value);
+        } else {
+            return value;
         }
-        return value;
     }
 
     template <bool isWanted, class T>
@@ -74,29 +85,30 @@ private:
         return isWanted ? Describe(value) : "";
     }
 
-    template <class Owner, class... Parameters>
-    static Outcome RunAs(contract::Status (Owner::*)(Parameters...),
-                         const CInterception& interception, contract::Status answer) {
-        return RunWith<Owner, Parameters...>(interception, answer,
+    template <class Passage, class Owner, class... Parameters>
+    static Outcome RunAs(contract::Status (Owner::*)(Parameters...), const Passage& passage,
+                         const Answer& answer) {
+        return RunWith<Owner, Parameters...>(passage, answer,
                                              std::index_sequence_for<Parameters...>());
     }
 
-    template <class Owner, class... Parameters, std::size_t... index>
-    static Outcome RunWith(const CInterception& interception, contract::Status answer,
+    template <class Owner, class... Parameters, class Passage, std::size_t... index>
+    static Outcome RunWith(const Passage& passage, const Answer& answer,
                            std::index_sequence<index...>) {
         using Values = std::tuple<std::remove_cvref_t<Parameters>...>;
         const auto target = MakeTarget<Owner>();
         Values given{Given<Parameters>(index)...};
         const Values offered{Given<Parameters>(kDeliveredSeed + index)...};
-        target->exchange.status = answer;
+        target->exchange.status = answer.status;
+        target->exchange.whileCalled = answer.whileCalled;
         if constexpr (sizeof...(Parameters) > 0) {
             if constexpr (kIsReference<std::tuple_element_t<sizeof...(Parameters) - 1, Values>>) {
                 target->exchange.object = std::get<sizeof...(Parameters) - 1>(offered);
             }
         }
         // Held, so that the wrappers seen during the call have the same address as these.
-        const Values givenAcross{Across(interception, std::get<index>(given))...};
-        const Values offeredAcross{Across(interception, std::get<index>(offered))...};
+        const Values givenAcross{Across(passage, std::get<index>(given))...};
+        const Values offeredAcross{Across(passage, std::get<index>(offered))...};
         const auto resultText = [](const Values& values) {
             return (std::string() + ... + TextIf<kIsResult<Parameters>>(std::get<index>(values)));
         };
@@ -109,7 +121,7 @@ private:
         outcome.delivered = resultText(offeredAcross);
         outcome.null = resultText({});
         outcome.status =
-            (interception.Wrap<Owner>(target).get()->*method)(std::get<index>(given)...);
+            (passage.template Wrap<Owner>(target).get()->*method)(std::get<index>(given)...);
         outcome.after = resultText(given);
         outcome.received = target->exchange.received;
         return outcome;
@@ -119,7 +131,7 @@ private:
 /// An operation by the name it should pass under, for tests with parameters.
 struct NamedOperation {
     std::string name;
-    Outcome (*run)(const CInterception&, contract::Status answer);
+    Outcome (*run)(const CInterception&, const Answer& answer);
     Delivers delivers;
 };
 
@@ -130,7 +142,8 @@ inline void PrintTo(const NamedOperation& operation, std::ostream* stream) {
 
 template <auto method>
 NamedOperation Named(const char* name) {
-    return {name, &COperationCheck<method>::Run, COperationCheck<method>::FromSignature()};
+    return {name, &COperationCheck<method>::template Run<CInterception>,
+            COperationCheck<method>::FromSignature()};
 }
 
 }

@@ -3,6 +3,7 @@
 #include "contract/Status.h"
 #include "tests/interception/Samples.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -32,6 +33,8 @@ struct Exchange {
     };
     std::vector<Received> received;
     contract::Status status;
+    /// Runs inside each call.
+    std::function<void()> whileCalled;
     /// Delivered by an operation that delivers an object.
     std::shared_ptr<void> object;
 };
@@ -59,6 +62,9 @@ private:
         int seed = kDeliveredSeed;
         (Take<Parameters>(arguments, seen, seed++), ...);
         exchange.received.push_back({tag, seen});
+        if (exchange.whileCalled) {
+            exchange.whileCalled();
+        }
         return exchange.status;
     }
 
