@@ -42,12 +42,18 @@ public:                                                                         
 private:                                                                                           \
     CReferenceCount<Class> m_references;
 
-/// Takes over the reference that an object is born with.
+/// Takes over the reference that an object is born with. Not by ComPtr's Attach: the one that comes
+/// with mingw-w64 adds a reference.
+template <class Object>
+ComPtr<Object> TakeOver(Object* born) {
+    ComPtr<Object> object;
+    *object.GetAddressOf() = born;
+    return object;
+}
+
 template <class Object, class... Arguments>
 ComPtr<Object> MakeCom(Arguments&&... arguments) {
-    ComPtr<Object> object;
-    object.Attach(new Object(std::forward<Arguments>(arguments)...));
-    return object;
+    return TakeOver(new Object(std::forward<Arguments>(arguments)...));
 }
 
 /// QueryInterface of an object with a single interface.
