@@ -1,7 +1,6 @@
 #include "component/win32/com/ComCall.h"
 
 #include "component/win32/com/Bstr.h"
-#include "contract/ErrorInfo.h"
 
 #include <string>
 
@@ -29,6 +28,7 @@ void ClearComErrorInfo() { SetErrorInfo(0, nullptr); }
 void TakeComErrorInfo() {
     ComPtr<IErrorInfo> info;
     CBstr description;
+    contract::ClearErrorInfo();
     if (GetErrorInfo(0, info.GetAddressOf()) == S_OK &&
         SUCCEEDED(info->GetDescription(description.Receive()))) {
         contract::SetErrorInfo(description.ToText());

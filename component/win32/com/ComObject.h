@@ -4,6 +4,8 @@
 #include "component/win32/com/ComApi.h"
 
 #include <atomic>
+#include <type_traits>
+#include <utility>
 
 namespace component {
 
@@ -56,14 +58,22 @@ ComPtr<Object> MakeCom(Arguments&&... arguments) {
     return TakeOver(new Object(std::forward<Arguments>(arguments)...));
 }
 
+/// Whether a pointer to `Interface` is the answer to a query for `identifier`.
+template <class Interface>
+bool IsAnsweredBy(REFIID identifier) {
+    return identifier == __uuidof(Interface) ||
+           (std::is_base_of_v<IDispatch, Interface> && identifier == IID_IDispatch);
+}
+
 /// QueryInterface of an object with a single interface.
 template <class Interface>
 HRESULT AnswerQuery(Interface* object, REFIID identifier, void** result) {
     if (!result) {
         return E_POINTER;
     }
-    *result = identifier == IID_IUnknown || identifier == __uuidof(Interface) ? object : nullptr;
-    if (!*result) {
+    const bool isAnswered = identifier == IID_IUnknown || IsAnsweredBy<Interface>(identifier);
+    *result = isAnswered ? object : nullptr;
+    if (!isAnswered) {
         return E_NOINTERFACE;
     }
     object->AddRef();

@@ -1,11 +1,12 @@
 #include "component/win32/com/ConnectionPoint.h"
 
-#include "component/win32/com/ComCall.h"
 #include "component/win32/com/ComObject.h"
 #include "component/win32/com/Enumeration.h"
+#include "component/win32/com/ServedCall.h"
 #include "component/win32/com/Variant.h"
 
 #include <array>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -14,6 +15,9 @@ namespace component {
 namespace {
 
 using contract::Status;
+
+/// The sinks in COM of one event source, by their cookies. Held by the source's subscriptions.
+using Subscriptions = std::map<DWORD, ComPtr<IUnknown>>;
 
 /// Base of the sinks that the contract's sources call: each event is a call by number. Holds the
 /// list that its own sink stands in.
@@ -71,12 +75,12 @@ struct HeldConnection {
 template <class Events, class Caller>
 class CConnectionPoint final : public IConnectionPoint {
 public:
-    CConnectionPoint(ComPtr<IConnectionPointContainer> container,
-                     std::shared_ptr<contract::IEventSource<Events>> source,
-                     std::shared_ptr<Subscriptions> subscriptions)
-        : m_container(std::move(container)),
+    CConnectionPoint(std::shared_ptr<CBridge> bridge, ComPtr<IConnectionPointContainer> container,
+                     std::shared_ptr<contract::IEventSource<Events>> source)
+        : m_bridge(std::move(bridge)),
+          m_container(std::move(container)),
           m_source(std::move(source)),
-          m_subscriptions(std::move(subscriptions)) {}
+          m_subscriptions(m_bridge->KeepBeside<Subscriptions>(m_source.get())) {}
     virtual ~CConnectionPoint() = default;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** result) override {
@@ -87,7 +91,7 @@ public:
     }
     HRESULT STDMETHODCALLTYPE
     GetConnectionPointContainer(IConnectionPointContainer** container) override {
-        return m_container.CopyTo(container);
+        return container ? m_container.CopyTo(container) : E_POINTER;
     }
     HRESULT STDMETHODCALLTYPE Advise(IUnknown* sink, DWORD* cookie) override {
         if (!sink || !cookie) {
@@ -99,22 +103,16 @@ public:
             FAILED(sink->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) {
             return CONNECT_E_CANNOTCONNECT;
         }
-        return Guarded(IID_IConnectionPoint, [&] { return Subscribe(dispatch, *cookie); });
+        return Serve([&] { return Subscribe(dispatch, *cookie); });
     }
     HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) override {
-        return Guarded(IID_IConnectionPoint, [&]() -> HRESULT {
-            const ComPtr<IUnknown> self(this);
-            if (m_subscriptions->erase(cookie) == 0) {
-                return CONNECT_E_NOCONNECTION;
-            }
-            return m_source->Unsubscribe(cookie).Code();
-        });
+        return Serve([&] { return Unsubscribe(cookie); });
     }
     HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** connections) override {
         if (!connections) {
             return E_POINTER;
         }
-        return Guarded(IID_IConnectionPoint, [&] {
+        return Serve([&] {
             std::vector<HeldConnection> held;
             for (const auto& [cookie, sink] : *m_subscriptions) {
                 held.push_back({sink, cookie});
@@ -126,17 +124,31 @@ public:
     }
 
 private:
+    template <class Operation>
+    HRESULT Serve(Operation operation) {
+        return ServeCall(*m_bridge, *this, IID_IConnectionPoint, operation);
+    }
     HRESULT Subscribe(const ComPtr<IDispatch>& sink, DWORD& cookie) {
         std::uint32_t delivered = 0;
-        const Status status =
-            m_source->Subscribe(std::make_shared<Caller>(sink, m_subscriptions), delivered);
-        if (status.IsSuccess()) {
+        const auto caller = std::make_shared<Caller>(sink, m_subscriptions);
+        const HRESULT status = CallContract(IID_IConnectionPoint,
+                                            [&] { return m_source->Subscribe(caller, delivered); });
+        if (SUCCEEDED(status)) {
             (*m_subscriptions)[delivered] = sink;
             cookie = delivered;
         }
-        return status.Code();
+        return status;
+    }
+    // The source knows its cookies best: it may be found through another object each time, beside
+    // which none of its sinks are kept.
+    HRESULT Unsubscribe(DWORD cookie) {
+        const bool isKept = m_subscriptions->erase(cookie) != 0;
+        const HRESULT status =
+            CallContract(IID_IConnectionPoint, [&] { return m_source->Unsubscribe(cookie); });
+        return FAILED(status) && !isKept ? CONNECT_E_NOCONNECTION : status;
     }
 
+    const std::shared_ptr<CBridge> m_bridge;
     const ComPtr<IConnectionPointContainer> m_container;
     const std::shared_ptr<contract::IEventSource<Events>> m_source;
     const std::shared_ptr<Subscriptions> m_subscriptions;
@@ -148,11 +160,10 @@ private:
 
 #define EVENT_INTERFACE(events)                                                                    \
     ComPtr<IConnectionPoint> MakeConnectionPoint(                                                  \
-        ComPtr<IConnectionPointContainer> container,                                               \
-        std::shared_ptr<contract::IEventSource<contract::events>> source,                          \
-        std::shared_ptr<Subscriptions> subscriptions) {                                            \
+        std::shared_ptr<CBridge> bridge, ComPtr<IConnectionPointContainer> container,              \
+        std::shared_ptr<contract::IEventSource<contract::events>> source) {                        \
         return MakeCom<CConnectionPoint<contract::events, CCallerOf##events>>(                     \
-            std::move(container), std::move(source), std::move(subscriptions));                    \
+            std::move(bridge), std::move(container), std::move(source));                           \
     }
 #include "component/win32/com/InterfaceTable.inc"
 

@@ -39,14 +39,14 @@ public:
         if (identifier != __uuidof(ComOf<Events>)) {
             return CONNECT_E_NOCONNECTION;
         }
-        return Guarded(IID_IConnectionPointContainer, [&] { return Find(point); });
+        return Serve([&] { return Find(point); });
     }
     HRESULT STDMETHODCALLTYPE EnumConnectionPoints(IEnumConnectionPoints** points) override {
         if (!points) {
             return E_POINTER;
         }
         *points = nullptr;
-        return Guarded(IID_IConnectionPointContainer, [&] {
+        return Serve([&] {
             HeldConnectionPoint held;
             const HRESULT result = Find(held.point.GetAddressOf());
             if (SUCCEEDED(result)) {
@@ -59,19 +59,21 @@ public:
     }
 
 private:
+    template <class Operation>
+    HRESULT Serve(Operation operation) {
+        return ServeCall(*m_owner->SharedBridge(), *this, IID_IConnectionPointContainer, operation);
+    }
     HRESULT Find(IConnectionPoint** point) {
         std::shared_ptr<contract::IBaseObject<Events>> base;
         std::shared_ptr<contract::IEventSource<Events>> source;
-        contract::Status status = m_owner->Object()->QueryBaseObject(base);
-        if (status.IsSuccess() && base) {
-            status = base->FindEventSource(source);
+        const HRESULT status = CallContract(IID_IConnectionPointContainer, [&] {
+            const contract::Status found = m_owner->Object()->QueryBaseObject(base);
+            return found.IsSuccess() && base ? base->FindEventSource(source) : found;
+        });
+        if (FAILED(status) || !source) {
+            return FAILED(status) ? status : E_NOINTERFACE;
         }
-        if (status.IsFailure() || !source) {
-            return status.IsFailure() ? status.Code() : E_NOINTERFACE;
-        }
-        auto subscriptions =
-            m_owner->SharedBridge()->template KeepBeside<Subscriptions>(source.get());
-        *point = MakeConnectionPoint(this, std::move(source), std::move(subscriptions)).Detach();
+        *point = MakeConnectionPoint(m_owner->SharedBridge(), this, std::move(source)).Detach();
         return S_OK;
     }
 

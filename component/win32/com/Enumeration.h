@@ -1,5 +1,6 @@
 #pragma once
 
+#include "component/win32/com/ComCall.h"
 #include "component/win32/com/ComObject.h"
 
 #include <cstddef>
@@ -45,8 +46,10 @@ public:
         if (!copy) {
             return E_POINTER;
         }
-        *copy = new CEnumeration(m_items, m_next);
-        return S_OK;
+        return Guarded(__uuidof(Interface), [&] {
+            *copy = new CEnumeration(m_items, m_next);
+            return S_OK;
+        });
     }
 
 private:

@@ -1,8 +1,8 @@
 #include "component/win32/com/EventSink.h"
 
-#include "component/win32/com/ComCall.h"
 #include "component/win32/com/ComObject.h"
 #include "component/win32/com/EventDescription.h"
+#include "component/win32/com/ServedCall.h"
 #include "component/win32/com/TypeLibrary.h"
 #include "component/win32/com/Variant.h"
 
@@ -71,12 +71,8 @@ public:
         if (!parameters) {
             return E_POINTER;
         }
-        if (!m_bridge->IsOnItsThread()) {
-            return RPC_E_WRONG_THREAD;
-        }
-        // The source may let go of the sink inside its event.
-        const ComPtr<IUnknown> self(this);
-        return Guarded(__uuidof(ComOf<Events>), [&] { return Receive(number, *parameters); });
+        return ServeCall(*m_bridge, *this, __uuidof(ComOf<Events>),
+                         [&] { return Receive(number, *parameters); });
     }
 
 protected:

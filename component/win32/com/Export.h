@@ -1,9 +1,8 @@
 #pragma once
 
 #include "component/win32/com/Arguments.h"
-#include "component/win32/com/ComCall.h"
 #include "component/win32/com/ComObject.h"
-#include "contract/ErrorInfo.h"
+#include "component/win32/com/ServedCall.h"
 
 #include <memory>
 #include <utility>
@@ -39,13 +38,14 @@ public:
         if (!result) {
             return E_POINTER;
         }
-        if (m_outer && identifier != __uuidof(Com)) {
+        if (m_outer && !IsAnsweredBy<Com>(identifier)) {
             return m_outer->QueryInterface(identifier, result);
         }
         if (SUCCEEDED(AnswerQuery(static_cast<Com*>(this), identifier, result))) {
             return S_OK;
         }
-        return Guarded(__uuidof(Com), [&] { return QueryFurther(*this, identifier, result); });
+        return ServeCall(*m_bridge, *this, __uuidof(Com),
+                         [&] { return QueryFurther(*this, identifier, result); });
     }
 
     /// Asks the object of the contract for another one and delivers it as a part of this one.
@@ -53,9 +53,10 @@ public:
     HRESULT QueryPart(contract::Status (Interface::*query)(std::shared_ptr<Other>&),
                       void** result) {
         std::shared_ptr<Other> other;
-        const contract::Status status = (m_object.get()->*query)(other);
-        if (status.IsFailure() || !other) {
-            return status.IsFailure() ? status.Code() : E_NOINTERFACE;
+        const HRESULT status =
+            CallContract(__uuidof(Com), [&] { return (m_object.get()->*query)(other); });
+        if (FAILED(status) || !other) {
+            return FAILED(status) ? status : E_NOINTERFACE;
         }
         *result = MakeExport(m_bridge, other, this).Detach();
         return S_OK;
@@ -70,12 +71,7 @@ protected:
     /// Serves a call by an operation whose parameters in the contract are `Parameters`.
     template <class... Parameters, class Method, class... Arguments>
     HRESULT Serve(Method method, Arguments... arguments) {
-        if (!m_bridge->IsOnItsThread()) {
-            return RPC_E_WRONG_THREAD;
-        }
-        // The caller may let go of this object inside the call.
-        const ComPtr<IUnknown> self(this);
-        return Guarded(__uuidof(Com), [&] {
+        return ServeCall(*m_bridge, *this, __uuidof(Com), [&] {
             return ServeWith(method,
                              typename Crossing<Parameters>::Incoming(*m_bridge, arguments)...);
         });
@@ -84,18 +80,14 @@ protected:
 private:
     template <class Method, class... Crossings>
     HRESULT ServeWith(Method method, Crossings&&... crossings) {
-        if (!(crossings.IsValid() && ...)) {
-            return E_POINTER;
-        }
-        ClearComErrorInfo();
-        contract::ClearErrorInfo();
-        const contract::Status status = (m_object.get()->*method)(crossings.Get()...);
-        if (status.IsSuccess()) {
+        const HRESULT status = CallContract(__uuidof(Com), [&] {
+            return (crossings.IsValid() && ...) ? (m_object.get()->*method)(crossings.Get()...)
+                                                : contract::kInvalidPointer;
+        });
+        if (SUCCEEDED(status)) {
             (crossings.Deliver(), ...);
-        } else {
-            LeaveComErrorInfo(__uuidof(Com));
         }
-        return status.Code();
+        return status;
     }
 
     const std::shared_ptr<CBridge> m_bridge;

@@ -13,22 +13,40 @@ template <>
 struct Crossing<TypeInformation> {
     class Incoming {
     public:
-        Incoming(CBridge&, int) {}
+        Incoming(CBridge&, std::shared_ptr<contract::ITypeInformation>* information)
+            : m_information(*information) {}
         bool IsValid() const { return true; }
         std::shared_ptr<contract::ITypeInformation>& Get() { return m_information; }
         void Deliver() {}
 
     private:
-        std::shared_ptr<contract::ITypeInformation> m_information;
+        std::shared_ptr<contract::ITypeInformation>& m_information;
     };
 };
 
-/// A message as a whole.
+/// A message in COM.
+struct ComMessage {
+    LONG owner;
+    BSTR text;
+    BSTR caption;
+    LONG status;
+    BSTR description;
+    ULONG style;
+    LONG showFlag;
+};
+
 template <>
 struct Crossing<const contract::Message&> {
     class Incoming {
     public:
-        Incoming(CBridge&, contract::Message message) : m_message(std::move(message)) {}
+        Incoming(CBridge&, const ComMessage& message)
+            : m_message{message.owner,
+                        FromBstr(message.text),
+                        FromBstr(message.caption),
+                        contract::Status(message.status),
+                        FromBstr(message.description),
+                        message.style,
+                        message.showFlag} {}
         bool IsValid() const { return true; }
         const contract::Message& Get() const { return m_message; }
         void Deliver() {}
@@ -59,14 +77,7 @@ public:
     HRESULT STDMETHODCALLTYPE ShowMessage(LONG owner, BSTR text, BSTR caption, LONG status,
                                           BSTR description, ULONG style, LONG showFlag,
                                           LONG* button) override {
-        contract::Message message;
-        message.owner = owner;
-        message.text = FromBstr(text);
-        message.caption = FromBstr(caption);
-        message.status = contract::Status(status);
-        message.description = FromBstr(description);
-        message.style = style;
-        message.showFlag = showFlag;
+        const ComMessage message{owner, text, caption, status, description, style, showFlag};
         return Serve<const contract::Message&, std::int32_t&>(&Contract::ShowMessage, message,
                                                               button);
     }
@@ -106,9 +117,14 @@ public:
             return E_POINTER;                                                                      \
         }                                                                                          \
         *info = nullptr;                                                                           \
+        std::shared_ptr<contract::ITypeInformation> information;                                   \
         const HRESULT result = Serve<std::uint32_t, std::uint32_t, TypeInformation>(               \
-            &Contract::GetTypeInfo, index, locale, 0);                                             \
-        return FAILED(result) ? result : FindTypeInfo(__uuidof(Com), info);                        \
+            &Contract::GetTypeInfo, index, locale, &information);                                  \
+        if (FAILED(result) || !information) {                                                      \
+            return result;                                                                         \
+        }                                                                                          \
+        const HRESULT found = FindTypeInfo(__uuidof(Com), info);                                   \
+        return FAILED(found) ? found : result;                                                     \
     }                                                                                              \
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,             \
                                             DISPID* numbers) override {                            \
@@ -133,16 +149,12 @@ public:
                                          [[maybe_unused]] REFIID identifier,                       \
                                          [[maybe_unused]] void** result) {
 #define QUERY(contract_, name, other)                                                              \
-    if (identifier == __uuidof(ComOf<contract::other>)) {                                          \
+    if (IsAnsweredBy<ComOf<contract::other>>(identifier)) {                                        \
         return object.QueryPart(&contract::contract_::name, result);                               \
     }
 #define EVENTS(contract_, events)                                                                  \
     if (identifier == IID_IConnectionPointContainer) {                                             \
         return ExportEvents<contract::events>(object, result);                                     \
-    }
-#define TYPE_INFORMATION                                                                           \
-    if (identifier == IID_IDispatch) {                                                             \
-        return AnswerQuery<IDispatch>(&object, identifier, result);                                \
     }
 #define END                                                                                        \
     return E_NOINTERFACE;                                                                          \

@@ -51,27 +51,23 @@ protected:
 private:
     template <class Method, class... Crossings>
     contract::Status CallWith(Method method, Crossings&&... crossings) {
-        ClearComErrorInfo();
-        const HRESULT result = (m_target.Get()->*method)(crossings.Get()...);
-        if (SUCCEEDED(result)) {
+        const contract::Status status =
+            CallCom([&] { return (m_target.Get()->*method)(crossings.Get()...); });
+        if (status.IsSuccess()) {
             (crossings.Deliver(), ...);
-        } else {
-            TakeComErrorInfo();
         }
-        return contract::Status(result);
+        return status;
     }
 
     template <class Other, class Request>
     contract::Status Deliver(std::shared_ptr<Other>& result, Request request) {
         ComPtr<ComOf<Other>> object;
-        ClearComErrorInfo();
-        const HRESULT status = request(reinterpret_cast<void**>(object.GetAddressOf()));
-        if (SUCCEEDED(status)) {
+        const contract::Status status =
+            CallCom([&] { return request(reinterpret_cast<void**>(object.GetAddressOf())); });
+        if (status.IsSuccess()) {
             result = m_bridge->template Import<Other>(object.Get());
-        } else {
-            TakeComErrorInfo();
         }
-        return contract::Status(status);
+        return status;
     }
 
     const std::shared_ptr<CBridge> m_bridge;

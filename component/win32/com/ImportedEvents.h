@@ -22,23 +22,17 @@ public:
             return contract::kInvalidPointer;
         }
         DWORD delivered = 0;
-        ClearComErrorInfo();
-        const HRESULT result = m_point->Advise(MakeEventSink(m_bridge, sink).Get(), &delivered);
-        if (SUCCEEDED(result)) {
+        const ComPtr<IDispatch> face = MakeEventSink(m_bridge, sink);
+        const contract::Status status =
+            CallCom([&] { return m_point->Advise(face.Get(), &delivered); });
+        if (status.IsSuccess()) {
             cookie = delivered;
-        } else {
-            TakeComErrorInfo();
         }
-        return contract::Status(result);
+        return status;
     }
 
     contract::Status Unsubscribe(std::uint32_t cookie) override {
-        ClearComErrorInfo();
-        const HRESULT result = m_point->Unadvise(cookie);
-        if (FAILED(result)) {
-            TakeComErrorInfo();
-        }
-        return contract::Status(result);
+        return CallCom([&] { return m_point->Unadvise(cookie); });
     }
 
 private:
@@ -57,19 +51,17 @@ public:
     FindEventSource(std::shared_ptr<contract::IEventSource<Events>>& source) override {
         ComPtr<IConnectionPointContainer> container;
         ComPtr<IConnectionPoint> point;
-        ClearComErrorInfo();
-        HRESULT result = m_object.As(&container);
-        if (SUCCEEDED(result)) {
-            result = container->FindConnectionPoint(__uuidof(ComOf<Events>), point.GetAddressOf());
+        const contract::Status status = CallCom([&] {
+            const HRESULT found = m_object.As(&container);
+            return FAILED(found) ? found
+                                 : container->FindConnectionPoint(__uuidof(ComOf<Events>),
+                                                                  point.GetAddressOf());
+        });
+        if (status.IsFailure() || !point) {
+            return status.IsFailure() ? status : contract::kNoSuchInterface;
         }
-        if (FAILED(result)) {
-            TakeComErrorInfo();
-        } else if (!point) {
-            result = E_NOINTERFACE;
-        } else {
-            source = std::make_shared<CImportedEventSource<Events>>(m_bridge, std::move(point));
-        }
-        return contract::Status(result);
+        source = std::make_shared<CImportedEventSource<Events>>(m_bridge, std::move(point));
+        return status;
     }
 
 private:
