@@ -55,10 +55,10 @@ void CViewWindow::Destroy() {
     m_isEnding = true;
 }
 
-// The control that sent the notification is not done with it yet. A message loop that runs inside
-// the notification, a box's, must not end the window either.
-void CViewWindow::EndNotification() {
-    if (--m_notifications == 0 && m_isEnding) {
+// Not before the last of them returns: the loop of a box that one of them shows would take the
+// message, and end a control that has not finished with its own.
+void CViewWindow::EndIfDue() {
+    if (m_isEnding && m_notifications == 0 && m_window) {
         PostMessageW(m_window, kEndMessage, 0, 0);
     }
 }

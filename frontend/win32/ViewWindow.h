@@ -48,14 +48,15 @@ private:
     void HandleListKey(panel::ControlId list, std::uint16_t virtualKey);
     void HandleHelp(const HELPINFO& request);
     void ReportSize(panel::Size size);
-    void EndNotification();
+    void EndIfDue();
 
     template <class... Parameters, class... Arguments>
     void Notify(void (panel::IDialogHandler::*event)(Parameters...), Arguments... arguments) {
         if (m_handler) {
             ++m_notifications;
             (m_handler->*event)(arguments...);
-            EndNotification();
+            --m_notifications;
+            EndIfDue();
         }
     }
 
@@ -66,8 +67,8 @@ private:
     std::shared_ptr<const CCursorStack> m_cursors;
     panel::Size m_reportedSize;
     int m_notifications = 0;
-    bool m_acceptsCancel = false;
     bool m_isEnding = false;
+    bool m_acceptsCancel = false;
 };
 
 panel::Size ClientSizeOf(HWND window);

@@ -74,6 +74,18 @@ TEST_F(Win32ViewTest, ViewDestroyedInsideItsCommandEndsItsWindowAfterwards) {
     EXPECT_FALSE(IsWindow(window));
 }
 
+TEST_F(Win32ViewTest, LoopInsideANotificationLeavesTheWindowOfALostView) {
+    const HWND window = ViewWindow();
+    m_handler.onListKeyDown = [&](auto...) {
+        m_view.reset();
+        Pump(); // as a box does
+        EXPECT_TRUE(IsWindow(window));
+    };
+    EXPECT_TRUE(User().PressKeyInList(kList, panel::kDeleteKey));
+    EXPECT_EQ(m_handler.events, Events{"key 46 in 303"});
+    EXPECT_FALSE(IsWindow(window));
+}
+
 TEST_F(Win32ViewTest, VerbsAfterTheHostsWindowEndedDoNothing) {
     m_host.reset();
     m_view->SetText(kButton, "text");
