@@ -1,3 +1,13 @@
+if(KRX8_SANITIZE)
+  set(krx8_instrumentation
+      -fsanitize=${KRX8_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+endif()
+
+# Has the sanitizers of the build, if any, check a library.
+function(krx8_instrument name)
+  target_compile_options(${name} PRIVATE ${krx8_instrumentation})
+endfunction()
+
 # One library a folder. Its includes start at the top of the project ("panel/control/View.h"), so
 # that a line of source shows which floor it reaches for.
 function(krx8_add_folder name)
@@ -7,10 +17,7 @@ function(krx8_add_folder name)
   else()
     add_library(${name} STATIC ${ARG_SOURCES})
   endif()
-  if(KRX8_SANITIZE)
-    target_compile_options(${name} PRIVATE
-      -fsanitize=${KRX8_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  endif()
+  krx8_instrument(${name})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ARG_LINKS})
 endfunction()
@@ -19,11 +26,20 @@ endfunction()
 # programs share.
 #
 # Under sanitizers the code under test is checked, and the libraries that tests share. The tests' own
-# sources are compiled as ever, which spares half the build: ccache has them from the preset dev. And
-# ctest knows the program as a few shards, since starting a process costs more than most tests.
+# sources are compiled as ever, which spares half the build: ccache has them from the preset dev. Not
+# so those under TEMPLATES, which are tests of templates and so compile the code under test
+# themselves. And ctest knows the program as a few shards, since starting a process costs more than
+# most tests.
 function(krx8_add_tests name)
-  cmake_parse_arguments(ARG "" "PREFIX" "SOURCES;LINKS;PRECOMPILE;ENVIRONMENT;PROPERTIES" ${ARGN})
-  add_executable(${name} ${ARG_SOURCES})
+  cmake_parse_arguments(ARG "" "PREFIX"
+                        "SOURCES;TEMPLATES;LINKS;PRECOMPILE;ENVIRONMENT;PROPERTIES" ${ARGN})
+  # Templates first: of functions that several sources compile, the linker takes the first.
+  add_executable(${name} ${ARG_TEMPLATES} ${ARG_SOURCES})
+  if(KRX8_SANITIZE AND ARG_TEMPLATES)
+    # A precompiled header serves only sources that are compiled as it was.
+    set_source_files_properties(${ARG_TEMPLATES} PROPERTIES
+      COMPILE_OPTIONS "${krx8_instrumentation}" SKIP_PRECOMPILE_HEADERS ON)
+  endif()
   # What nearly every test includes takes longer to read than the test itself.
   target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <gmock/gmock.h> ${ARG_PRECOMPILE})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gmock GTest::gtest_main)
