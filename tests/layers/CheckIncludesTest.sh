@@ -9,7 +9,7 @@ failures=0
 expect() { # EXPECTED-STATUS FOLDER INCLUDE
     mkdir -p "$tree"/{contract,interception,simulator/folder/{posix,win32},panel/control,workstation} \
         "$tree"/frontend/{common,headless,help,registry,qt,win32} \
-        "$tree"/component/{linux,loader,register}
+        "$tree"/component/{common,linux,loader,register,win32/{com,control,server}}
     printf '#pragma once\n\n#include %s\n' "$3" >"$tree/$2/Probe.h"
     local output status
     output=$("$check" "$tree")
@@ -42,7 +42,15 @@ expect 0 frontend/win32 '"frontend/help/HelpFile.h"'
 expect 0 workstation '"frontend/qt/CommandEvent.h"'
 expect 0 workstation '"component/loader/ComponentLibrary.h"'
 expect 0 component/linux '"frontend/qt/QtToolkit.h"'
+expect 0 component/win32/com '"contract/host/Context.h"'
+expect 0 component/win32/com '<krx8maintenance.h>'
+expect 0 component/win32/control '"component/win32/com/Bridge.h"'
+expect 0 component/win32/server '"component/win32/control/ClassFactory.h"'
 
+expect 1 component/common '"contract/Status.h"'
+expect 1 component/win32/com '"panel/control/View.h"'
+expect 1 component/win32/com '"component/win32/control/Control.h"'
+expect 1 component/win32/control '"frontend/qt/QtToolkit.h"'
 expect 1 contract '"panel/control/View.h"'
 expect 1 contract '<windows.h>'
 expect 1 contract '<QString>'
