@@ -33,11 +33,7 @@ bool ServesHost(const std::shared_ptr<CBridge>& bridge, std::shared_ptr<Interfac
 
 }
 
-ComPtr<IUnknown> CControl::Create() {
-    ComPtr<IUnknown> control;
-    control.Attach(new CControl());
-    return control;
-}
+ComPtr<IUnknown> CControl::Create() { return TakeOver(new CControl()); }
 
 CControl::CControl()
     : m_panel(panel::CKRX8Maintenance::Create(std::make_unique<CCountedToolkit>())),

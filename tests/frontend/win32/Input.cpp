@@ -94,8 +94,12 @@ void ClickCentre(HWND window) {
                  static_cast<int>(place.top + place.bottom) / 2});
 }
 
-void PressKey(std::uint16_t virtualKey, std::uint16_t heldKey) {
+void SendKey(std::uint16_t virtualKey, std::uint16_t heldKey) {
     Send(Holding(heldKey, {KeyInput(virtualKey, 0), KeyInput(virtualKey, KEYEVENTF_KEYUP)}));
+}
+
+void PressKey(std::uint16_t virtualKey, std::uint16_t heldKey) {
+    SendKey(virtualKey, heldKey);
     Pump();
 }
 

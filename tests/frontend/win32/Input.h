@@ -20,7 +20,10 @@ void ClickScreen(panel::Point place, bool isRight = false, std::uint16_t heldKey
 /// Clicks into the middle of a window.
 void ClickCentre(HWND window);
 
-/// Presses a key of that virtual-key code, holding another one, and handles what comes of it.
+/// Presses a key of that virtual-key code, holding another one. The messages are on their way when
+/// it returns.
+void SendKey(std::uint16_t virtualKey, std::uint16_t heldKey = 0);
+/// The same, and handles what comes of it.
 void PressKey(std::uint16_t virtualKey, std::uint16_t heldKey = 0);
 /// The same with the characters of a text.
 void Type(std::wstring_view text);
