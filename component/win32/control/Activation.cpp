@@ -6,44 +6,62 @@ namespace component {
 
 namespace {
 
-/// True while something goes on inside which a second one of its kind makes no sense.
-class CChange {
-public:
-    explicit CChange(bool& flag) : m_flag(flag) { m_flag = true; }
-    ~CChange() { m_flag = false; }
-    CChange(const CChange&) = delete;
-    CChange& operator=(const CChange&) = delete;
+// For containers that move the keyboard about among their controls.
+void TellFocus(IUnknown& site, BOOL hasFocus) {
+    ComPtr<IOleControlSite> controlSite;
+    if (SUCCEEDED(site.QueryInterface(IID_PPV_ARGS(controlSite.GetAddressOf())))) {
+        controlSite->OnFocus(hasFocus);
+    }
+}
 
-private:
-    bool& m_flag;
-};
+HRESULT AskForEntry(IOleInPlaceSite& site) {
+    const HRESULT result = site.CanInPlaceActivate();
+    if (result != S_OK) {
+        return FAILED(result) ? result : E_FAIL;
+    }
+    return site.OnInPlaceActivate();
+}
 
 }
 
 /// What a site says of the place that it has for the control.
 struct CActivation::Context {
+    static HRESULT Find(IOleInPlaceSite& site, Context& context);
+
     HWND parent = nullptr;
-    ComPtr<IOleInPlaceFrame> frame;
-    ComPtr<IOleInPlaceUIWindow> document;
+    Frames frames;
     RECT place{};
     RECT clip{};
 };
 
+HRESULT CActivation::Context::Find(IOleInPlaceSite& site, Context& context) {
+    HRESULT result = site.GetWindow(&context.parent);
+    if (FAILED(result)) {
+        return result;
+    }
+    ComPtr<IOleInPlaceFrame> frame;
+    ComPtr<IOleInPlaceUIWindow> document;
+    OLEINPLACEFRAMEINFO info{};
+    info.cb = sizeof info;
+    result = site.GetWindowContext(frame.GetAddressOf(), document.GetAddressOf(), &context.place,
+                                   &context.clip, &info);
+    context.frames = {frame, document};
+    return SUCCEEDED(result) && !IsWindow(context.parent) ? E_UNEXPECTED : result;
+}
+
 HRESULT CActivation::Activate(IOleClientSite* site, bool forUser) {
-    if (m_isChanging || !site) {
+    if (m_stage == Stage::Entering || !site) {
         return E_UNEXPECTED;
     }
-    if (!IsActive()) {
-        const CChange change(m_isChanging);
+    if (!GetWindow()) {
+        // Its window may have gone with the container's.
+        Deactivate();
         const HRESULT result = Enter(*site);
         if (FAILED(result)) {
             return result;
         }
     }
-    if (forUser) {
-        ActivateForUser();
-    }
-    return S_OK;
+    return forUser ? ActivateForUser() : S_OK;
 }
 
 HRESULT CActivation::Enter(IOleClientSite& clientSite) {
@@ -52,19 +70,11 @@ HRESULT CActivation::Enter(IOleClientSite& clientSite) {
     if (FAILED(result)) {
         return result;
     }
-    result = site->CanInPlaceActivate();
-    if (result != S_OK) {
-        return FAILED(result) ? result : E_FAIL;
-    }
-    result = site->OnInPlaceActivate();
-    if (FAILED(result)) {
-        return result;
-    }
-    m_site = std::move(site);
-    Context context;
-    result = FindContext(context);
+    m_stage = Stage::Entering;
+    result = AskForEntry(*site.Get());
     if (SUCCEEDED(result)) {
-        result = ShowAt(context);
+        m_site = site;
+        result = TakePlace(*site.Get());
     }
     if (FAILED(result)) {
         Deactivate();
@@ -74,25 +84,17 @@ HRESULT CActivation::Enter(IOleClientSite& clientSite) {
     return S_OK;
 }
 
-HRESULT CActivation::FindContext(Context& context) const {
-    HRESULT result = m_site->GetWindow(&context.parent);
-    if (FAILED(result)) {
-        return result;
+HRESULT CActivation::TakePlace(IOleInPlaceSite& site) {
+    Context context;
+    HRESULT result = Context::Find(site, context);
+    if (SUCCEEDED(result) && m_stage == Stage::Entering) {
+        result = MakeWindow(context.parent);
     }
-    OLEINPLACEFRAMEINFO info{};
-    info.cb = sizeof info;
-    result = m_site->GetWindowContext(context.frame.GetAddressOf(), context.document.GetAddressOf(),
-                                      &context.place, &context.clip, &info);
-    return SUCCEEDED(result) && !IsWindow(context.parent) ? E_UNEXPECTED : result;
-}
-
-HRESULT CActivation::ShowAt(const Context& context) {
-    const HRESULT result = MakeWindow(context.parent);
-    if (FAILED(result)) {
-        return result;
+    if (FAILED(result) || m_stage != Stage::Entering) {
+        return FAILED(result) ? result : E_UNEXPECTED;
     }
-    m_frame = context.frame;
-    m_document = context.document;
+    m_stage = Stage::InPlace;
+    m_frames = context.frames;
     m_window->Place(context.place, context.clip);
     m_window->ShowIn(context.parent);
     return S_OK;
@@ -102,77 +104,70 @@ HRESULT CActivation::MakeWindow(HWND parent) {
     if (m_window && m_window->Get()) {
         return S_OK;
     }
-    if (m_hadView) {
-        return E_UNEXPECTED;
-    }
     m_window = CControlWindow::Create(parent, {[this](SIZE client) {
                                                    m_panel.Resize({client.cx, client.cy});
                                                },
-                                               [this] {
-                                                   if (IsActive()) {
-                                                       ActivateForUser();
-                                                   }
-                                               },
-                                               {}});
+                                               [this] { static_cast<void>(ActivateForUser()); }});
     if (!m_window) {
         return HRESULT_FROM_WIN32(GetLastError());
     }
     const contract::Status status = m_panel.CreateView(m_window->Get());
     if (status.IsFailure()) {
         m_window.reset();
-        return status.Code();
     }
-    m_hadView = true;
-    return S_OK;
+    return status.Code();
 }
 
-void CActivation::ActivateForUser() {
-    if (!m_isForUser) {
-        m_isForUser = true;
-        if (FAILED(m_site->OnUIActivate())) {
-            m_isForUser = false;
-            return;
-        }
-        if (m_frame) {
-            m_frame->SetActiveObject(&m_activeObject, nullptr);
-            // It has no tools of its own to be put around the container's window.
-            m_frame->SetBorderSpace(nullptr);
-        }
-        if (m_document) {
-            m_document->SetActiveObject(&m_activeObject, nullptr);
-            m_document->SetBorderSpace(nullptr);
-        }
-    }
-    if (m_window) {
+HRESULT CActivation::ActivateForUser() {
+    const HRESULT result = m_stage == Stage::InPlace ? TakeFrames() : S_OK;
+    if (m_stage == Stage::ForUser) {
         m_window->TakeFocus();
     }
+    return result;
+}
+
+HRESULT CActivation::TakeFrames() {
+    const ComPtr<IOleInPlaceSite> site = m_site;
+    m_stage = Stage::ForUser;
+    const HRESULT result = site->OnUIActivate();
+    if (m_stage == Stage::ForUser && FAILED(result)) {
+        m_stage = Stage::InPlace;
+    }
+    for (const auto& frame : Frames(m_frames)) {
+        if (frame && m_stage == Stage::ForUser) {
+            frame->SetActiveObject(&m_activeObject, nullptr);
+            // It has no tools of its own to be put around the container's window.
+            frame->SetBorderSpace(nullptr);
+        }
+    }
+    if (m_stage == Stage::ForUser) {
+        TellFocus(*site.Get(), TRUE);
+    }
+    return result;
 }
 
 void CActivation::DeactivateForUser() {
-    if (!std::exchange(m_isForUser, false)) {
+    if (m_stage != Stage::ForUser) {
         return;
     }
-    if (m_frame) {
-        m_frame->SetActiveObject(nullptr, nullptr);
+    m_stage = Stage::InPlace;
+    const ComPtr<IOleInPlaceSite> site = m_site;
+    TellFocus(*site.Get(), FALSE);
+    for (const auto& frame : Frames(m_frames)) {
+        if (frame) {
+            frame->SetActiveObject(nullptr, nullptr);
+        }
     }
-    if (m_document) {
-        m_document->SetActiveObject(nullptr, nullptr);
-    }
-    if (m_site) {
-        m_site->OnUIDeactivate(FALSE);
-    }
+    site->OnUIDeactivate(FALSE);
 }
 
 void CActivation::Deactivate() {
-    if (!m_site) {
-        return;
-    }
     DeactivateForUser();
+    m_stage = Stage::Outside;
     if (m_window && m_window->Get()) {
         m_window->Park();
     }
-    m_frame.Reset();
-    m_document.Reset();
+    m_frames = {};
     // The site may ask for the same again.
     if (const ComPtr<IOleInPlaceSite> site = std::move(m_site)) {
         site->OnInPlaceDeactivate();
@@ -193,7 +188,9 @@ HRESULT CActivation::SetPlace(const RECT& place, const RECT& clip) {
     return S_OK;
 }
 
-HWND CActivation::GetWindow() const { return IsActive() && m_window ? m_window->Get() : nullptr; }
+HWND CActivation::GetWindow() const {
+    return m_stage >= Stage::InPlace && m_window ? m_window->Get() : nullptr;
+}
 
 HWND CActivation::GetView() const { return m_window ? m_window->GetView() : nullptr; }
 

@@ -3,12 +3,14 @@
 #include "component/win32/control/ControlWindow.h"
 #include "contract/panel/Panel.h"
 
+#include <array>
 #include <memory>
 
 namespace component {
 
 /// The control's way into its container and out again: nothing shown, active in place, active for
-/// the user. Leaves with every reference it has taken, whatever the site answers.
+/// the user. Leaves with every reference it has taken, whatever the site answers. The container may
+/// deactivate it, close it and let go of it inside each call that it gets.
 ///
 /// The panel has one view in its life, made at the first activation: a control that is deactivated
 /// keeps it where nobody sees it, and one whose view has ended cannot be activated again.
@@ -18,15 +20,13 @@ public:
         : m_panel(panel), m_activeObject(activeObject) {}
 
     /// Shows the control in the place that `site` gives it; with `forUser` it is also given the
-    /// keyboard and the frame's menus. Fails where the site will have none of it.
+    /// keyboard and the frame's menus. Fails where the site will have none of it; what it has
+    /// reached by then without the keyboard stays.
     HRESULT Activate(IOleClientSite* site, bool forUser);
     void DeactivateForUser();
     void Deactivate();
     /// Deactivates it for good.
     void Close();
-
-    bool IsActive() const { return m_site != nullptr; }
-    bool IsActiveForUser() const { return m_isForUser; }
 
     HRESULT SetPlace(const RECT& place, const RECT& clip);
     /// The control's window; null when it is not active.
@@ -36,23 +36,24 @@ public:
     bool HasFocus() const { return m_window && m_window->HasFocus(); }
 
 private:
+    enum class Stage { Outside, Entering, InPlace, ForUser };
     struct Context;
+    /// The container's frame and document window; null where it has none.
+    using Frames = std::array<ComPtr<IOleInPlaceUIWindow>, 2>;
 
     HRESULT Enter(IOleClientSite& clientSite);
-    HRESULT FindContext(Context& context) const;
-    HRESULT ShowAt(const Context& context);
+    HRESULT TakePlace(IOleInPlaceSite& site);
     HRESULT MakeWindow(HWND parent);
-    void ActivateForUser();
+    HRESULT ActivateForUser();
+    HRESULT TakeFrames();
 
     contract::IPanel& m_panel;
     IOleInPlaceActiveObject& m_activeObject;
+    Stage m_stage = Stage::Outside;
+    /// The site that has been told of the activation.
     ComPtr<IOleInPlaceSite> m_site;
-    ComPtr<IOleInPlaceFrame> m_frame;
-    ComPtr<IOleInPlaceUIWindow> m_document;
+    Frames m_frames;
     std::unique_ptr<CControlWindow> m_window;
-    bool m_isForUser = false;
-    bool m_hadView = false;
-    bool m_isChanging = false;
 };
 
 }

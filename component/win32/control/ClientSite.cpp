@@ -71,15 +71,8 @@ void CClientSite::TellViewChanged() {
 
 bool CClientSite::OfferKey(MSG& message) const {
     ComPtr<IOleControlSite> site;
-    return SUCCEEDED(m_site.As(&site)) &&
+    return m_site && SUCCEEDED(m_site.As(&site)) &&
            site->TranslateAccelerator(&message, PressedModifiers()) == S_OK;
-}
-
-void CClientSite::TellFocus(bool hasFocus) const {
-    ComPtr<IOleControlSite> site;
-    if (SUCCEEDED(m_site.As(&site))) {
-        site->OnFocus(hasFocus);
-    }
 }
 
 }

@@ -28,7 +28,6 @@ public:
 
     /// Hands a key that the control does not want to the container; true when that has used it.
     bool OfferKey(MSG& message) const;
-    void TellFocus(bool hasFocus) const;
 
 private:
     ComPtr<IOleClientSite> m_site;

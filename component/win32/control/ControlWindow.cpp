@@ -85,6 +85,7 @@ private:
             return 0;
         case WM_SETFOCUS:
             SetFocus(GetWindow(window, GW_CHILD));
+            Call(m_events.onActivated);
             return 0;
         case WM_PARENTNOTIFY:
             if (LOWORD(wParam) == WM_DESTROY && m_endsWithView) {
@@ -92,13 +93,12 @@ private:
             }
             break;
         case WM_MOUSEACTIVATE:
-            Call(m_events.onMouseActivated);
+            Call(m_events.onActivated);
             break;
         case WM_NCDESTROY:
             SetWindowLongPtrW(window, GWLP_USERDATA, 0);
             m_window = nullptr;
             m_self = nullptr;
-            Call(m_events.onDestroyed);
             break;
         }
         return DefWindowProcW(window, message, wParam, lParam);

@@ -15,10 +15,8 @@ class CControlWindow {
 public:
     struct Events {
         std::function<void(SIZE client)> onResized;
-        /// The user has clicked into it.
-        std::function<void()> onMouseActivated;
-        /// It is gone, with its parent perhaps.
-        std::function<void()> onDestroyed;
+        /// The user has clicked into it, or it has been given the focus.
+        std::function<void()> onActivated;
     };
 
     /// Hidden, below `parent`. Null when the system makes none.

@@ -25,7 +25,7 @@ HRESULT CopyText(const wchar_t* text, LPOLESTR* copy) {
 
 HRESULT COleObject::SetClientSite(IOleClientSite* site) {
     return Enter([&] {
-        if (!site) {
+        if (site != m_site.Get()) {
             m_activation.Deactivate();
         }
         m_site.Set(site);
@@ -73,15 +73,15 @@ HRESULT COleObject::GetClipboardData(DWORD, IDataObject** data) {
 
 HRESULT COleObject::DoVerb(LONG verb, MSG*, IOleClientSite* activeSite, LONG, HWND, LPCRECT) {
     return Enter([&]() -> HRESULT {
-        IOleClientSite* const site = m_site.Get() ? m_site.Get() : activeSite;
+        const ComPtr<IOleClientSite> site = m_site.Get() ? m_site.Get() : activeSite;
         switch (verb) {
         case OLEIVERB_PRIMARY:
         case OLEIVERB_SHOW:
         case OLEIVERB_OPEN:
         case OLEIVERB_UIACTIVATE:
-            return m_activation.Activate(site, true);
+            return m_activation.Activate(site.Get(), true);
         case OLEIVERB_INPLACEACTIVATE:
-            return m_activation.Activate(site, false);
+            return m_activation.Activate(site.Get(), false);
         case OLEIVERB_HIDE:
             return Hide();
         case OLEIVERB_DISCARDUNDOSTATE:
