@@ -50,7 +50,7 @@ HRESULT CActivation::Context::Find(IOleInPlaceSite& site, Context& context) {
 }
 
 HRESULT CActivation::Activate(IOleClientSite* site, bool forUser) {
-    if (m_stage == Stage::Entering || !site) {
+    if (m_stage == Stage::Moving || !site) {
         return E_UNEXPECTED;
     }
     if (!GetWindow()) {
@@ -70,7 +70,7 @@ HRESULT CActivation::Enter(IOleClientSite& clientSite) {
     if (FAILED(result)) {
         return result;
     }
-    m_stage = Stage::Entering;
+    m_stage = Stage::Moving;
     result = AskForEntry(*site.Get());
     if (SUCCEEDED(result)) {
         m_site = site;
@@ -87,10 +87,10 @@ HRESULT CActivation::Enter(IOleClientSite& clientSite) {
 HRESULT CActivation::TakePlace(IOleInPlaceSite& site) {
     Context context;
     HRESULT result = Context::Find(site, context);
-    if (SUCCEEDED(result) && m_stage == Stage::Entering) {
+    if (SUCCEEDED(result) && m_stage == Stage::Moving) {
         result = MakeWindow(context.parent);
     }
-    if (FAILED(result) || m_stage != Stage::Entering) {
+    if (FAILED(result) || m_stage != Stage::Moving) {
         return FAILED(result) ? result : E_UNEXPECTED;
     }
     m_stage = Stage::InPlace;
@@ -151,6 +151,10 @@ void CActivation::DeactivateForUser() {
         return;
     }
     m_stage = Stage::InPlace;
+    LeaveFrames();
+}
+
+void CActivation::LeaveFrames() {
     const ComPtr<IOleInPlaceSite> site = m_site;
     TellFocus(*site.Get(), FALSE);
     for (const auto& frame : Frames(m_frames)) {
@@ -162,7 +166,9 @@ void CActivation::DeactivateForUser() {
 }
 
 void CActivation::Deactivate() {
-    DeactivateForUser();
+    if (std::exchange(m_stage, Stage::Moving) == Stage::ForUser) {
+        LeaveFrames();
+    }
     m_stage = Stage::Outside;
     if (m_window && m_window->Get()) {
         m_window->Park();

@@ -36,7 +36,8 @@ public:
     bool HasFocus() const { return m_window && m_window->HasFocus(); }
 
 private:
-    enum class Stage { Outside, Entering, InPlace, ForUser };
+    /// Moving is on the way in or out; no activation begins there.
+    enum class Stage { Outside, Moving, InPlace, ForUser };
     struct Context;
     /// The container's frame and document window; null where it has none.
     using Frames = std::array<ComPtr<IOleInPlaceUIWindow>, 2>;
@@ -46,6 +47,7 @@ private:
     HRESULT MakeWindow(HWND parent);
     HRESULT ActivateForUser();
     HRESULT TakeFrames();
+    void LeaveFrames();
 
     contract::IPanel& m_panel;
     IOleInPlaceActiveObject& m_activeObject;
