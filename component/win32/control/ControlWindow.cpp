@@ -149,6 +149,9 @@ void CControlWindow::ShowIn(HWND parent) {
 }
 
 void CControlWindow::Park() {
+    if (HasFocus()) {
+        SetFocus(GetAncestor(Get(), GA_PARENT));
+    }
     ShowWindow(Get(), SW_HIDE);
     SetParent(Get(), HWND_MESSAGE);
 }

@@ -18,12 +18,21 @@ int PositionOf(HWND view, HWND control) {
     return position;
 }
 
-// The system's search goes round from the last control to the first.
+// The system's search goes round from the last control to the first. The view itself has the focus
+// while the control that had it is disabled.
 bool LeavesView(HWND view, bool isBackwards) {
     const HWND focused = GetFocus();
+    if (focused == view) {
+        return false;
+    }
     const int from = PositionOf(view, focused);
     const int next = PositionOf(view, GetNextDlgTabItem(view, focused, isBackwards));
     return isBackwards ? next >= from : next <= from;
+}
+
+bool IsPushButton(HWND control) {
+    constexpr LRESULT kPushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
+    return (SendMessageW(control, WM_GETDLGCODE, 0, 0) & kPushButton) != 0;
 }
 
 bool IsForView(HWND view, WPARAM key) {
@@ -60,6 +69,13 @@ bool HandOn(HWND view, MSG& message) {
     if (message.message == WM_KEYDOWN && message.wParam == VK_F1) {
         // The control that has the focus makes a help request of it.
         DispatchMessageW(&message);
+        return true;
+    }
+    const HWND focused = GetFocus();
+    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && IsPushButton(focused)) {
+        // The system knows of a default button only that was reached by Tab.
+        SendMessageW(view, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(focused), BN_CLICKED),
+                     reinterpret_cast<LPARAM>(focused));
         return true;
     }
     return IsDialogMessageW(view, &message) != FALSE;
