@@ -47,12 +47,10 @@ HRESULT COleObject::GetClientSite(IOleClientSite** site) {
 // It shows no name of its container anywhere.
 HRESULT COleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
 
-HRESULT COleObject::Close(DWORD saveOption) {
+// What it keeps in a container's file is its size alone, which its container knows: it is never
+// dirty, and nothing is to be saved.
+HRESULT COleObject::Close(DWORD) {
     return Enter([&] {
-        // What it keeps in a container's file is its size alone, which is nothing to ask about.
-        if (saveOption != OLECLOSE_NOSAVE && m_site.Get()) {
-            m_site.Get()->SaveObject();
-        }
         m_activation.Close();
         m_site.TellClosed();
         return S_OK;

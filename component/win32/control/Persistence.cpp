@@ -45,7 +45,11 @@ HRESULT CPersistentState::Save(IStream& stream) const {
                         static_cast<std::int32_t>(extent.cy)};
     ULONG written = 0;
     const HRESULT result = stream.Write(&record, sizeof record, &written);
-    return SUCCEEDED(result) && written != sizeof record ? STG_E_MEDIUMFULL : result;
+    if (FAILED(result) || written != sizeof record) {
+        return FAILED(result) ? result : STG_E_MEDIUMFULL;
+    }
+    m_site.TellSaved();
+    return S_OK;
 }
 
 ULONG CPersistentState::SizeBytes() { return sizeof(Record); }
