@@ -3,7 +3,6 @@
 #include "tests/component/win32/control/Container.h"
 #include "tests/component/win32/control/SmallHost.h"
 #include "tests/frontend/win32/HostWindow.h"
-#include "tests/frontend/win32/Win32FrontEndDriver.h"
 #include "tests/frontend/win32/Win32ViewUser.h"
 
 #include <gmock/gmock.h>
@@ -42,7 +41,8 @@ protected:
     void ExpectNothingLeft();
 
     const CComponent library;
-    win32tests::CWin32FrontEndDriver prompts;
+    const std::unique_ptr<conformance::IFrontEndDriver> driver = conformance::MakeDriver();
+    conformance::IFrontEndDriver& prompts = *driver;
     std::optional<win32tests::CHostWindow> window{std::in_place};
     std::shared_ptr<component::CBridge> bridge = std::make_shared<component::CBridge>();
     std::shared_ptr<CSmallHost> host = std::make_shared<CSmallHost>();

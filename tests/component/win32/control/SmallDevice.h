@@ -166,7 +166,7 @@ public:
 private:
     template <class Interface>
     Status Give(const char* call, Shared<Interface>& object) {
-        const Status status = inside ? inside(call) : contract::kSuccess;
+        const Status status = Run(call);
         if (status.IsSuccess()) {
             object = shared_from_this();
         }
@@ -178,6 +178,11 @@ private:
         return contract::kSuccess;
     }
     Status Note(const std::string& call);
+    /// A copy, since what runs inside may be replaced from there.
+    Status Run(const std::string& call) {
+        const auto act = inside;
+        return act ? act(call) : contract::kSuccess;
+    }
 
     const Shared<simulator::CEventSource<Events>> m_events =
         std::make_shared<simulator::CEventSource<Events>>();

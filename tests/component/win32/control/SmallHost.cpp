@@ -40,7 +40,8 @@ Status CSmallHost::QueryHostViewControl(std::shared_ptr<contract::IHostViewContr
 
 Status CSmallHost::GetSubsystem(const contract::Guid& identifier,
                                 std::shared_ptr<contract::ISubsystem>& subsystem) {
-    if (identifier != contract::kProgrammingDeviceSubsystem) {
+    if (identifier != contract::kProgrammingDeviceSubsystem &&
+        identifier != contract::kProductInformationSubsystem) {
         return contract::kUnspecifiedFailure;
     }
     subsystem = shared_from_this();
@@ -50,6 +51,33 @@ Status CSmallHost::GetSubsystem(const contract::Guid& identifier,
 Status CSmallHost::QueryProgrammingDeviceSubsystem(
     std::shared_ptr<contract::IProgrammingDeviceSubsystem>& subsystem) {
     subsystem = device;
+    return contract::kSuccess;
+}
+
+Status
+CSmallHost::QueryProductInformation(std::shared_ptr<contract::IProductInformation>& information) {
+    information = shared_from_this();
+    return contract::kSuccess;
+}
+
+Status CSmallHost::GetProductDetection(std::shared_ptr<contract::IProductDetection>& detection) {
+    detection = shared_from_this();
+    return contract::kSuccess;
+}
+
+Status CSmallHost::QueryProductDetectionControl(
+    std::shared_ptr<contract::IProductDetectionControl>& control) {
+    control = shared_from_this();
+    return contract::kSuccess;
+}
+
+Status CSmallHost::GetPollingEnabled(bool& enabled) {
+    enabled = isPolling;
+    return contract::kSuccess;
+}
+
+Status CSmallHost::SetPollingEnabled(bool enabled) {
+    isPolling = enabled;
     return contract::kSuccess;
 }
 

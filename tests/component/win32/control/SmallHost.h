@@ -15,6 +15,9 @@ class CSmallHost final : public contract::IContext,
                          public contract::ISubsystem,
                          public contract::IConnection,
                          public contract::IConnectionState,
+                         public contract::IProductInformation,
+                         public contract::IProductDetection,
+                         public contract::IProductDetectionControl,
                          public std::enable_shared_from_this<CSmallHost> {
 public:
     using Status = contract::Status;
@@ -25,6 +28,7 @@ public:
         std::make_shared<support::CHostViewControlDouble>();
     int memberCount = 0;
     bool isConnected = true;
+    bool isPolling = true;
 
     void RaiseState(std::int32_t state);
     std::size_t SubscriberCount() const { return m_events->SubscriberCount(); }
@@ -43,9 +47,15 @@ public:
                         std::shared_ptr<contract::ISubsystem>& subsystem) override;
     Status QueryProgrammingDeviceSubsystem(
         std::shared_ptr<contract::IProgrammingDeviceSubsystem>& subsystem) override;
-    Status QueryProductInformation(std::shared_ptr<contract::IProductInformation>&) override {
-        return contract::kNoSuchInterface;
-    }
+    Status
+    QueryProductInformation(std::shared_ptr<contract::IProductInformation>& information) override;
+
+    // contract::IProductInformation, IProductDetection and IProductDetectionControl
+    Status GetProductDetection(std::shared_ptr<contract::IProductDetection>& detection) override;
+    Status QueryProductDetectionControl(
+        std::shared_ptr<contract::IProductDetectionControl>& control) override;
+    Status GetPollingEnabled(bool& enabled) override;
+    Status SetPollingEnabled(bool enabled) override;
 
     // contract::IConnection and IConnectionState
     Status QueryConnectionState(std::shared_ptr<contract::IConnectionState>& state) override;

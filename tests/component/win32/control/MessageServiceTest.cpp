@@ -1,0 +1,118 @@
+// The host's message boxes, found by their class.
+
+#include "tests/component/win32/control/ControlFixture.h"
+
+#include "component/win32/com/ComObject.h"
+#include "contract/ErrorInfo.h"
+#include "panel/control/PanelTemplate.h"
+
+namespace controltests {
+
+namespace {
+
+using component::CReferenceCount;
+using support::CMessageServiceDouble;
+using support::Shown;
+
+/// Makes the one message service of a host.
+class CServiceFactory final : public IClassFactory {
+public:
+    CServiceFactory(std::shared_ptr<component::CBridge> bridge,
+                    std::shared_ptr<CMessageServiceDouble> service)
+        : m_bridge(std::move(bridge)), m_service(std::move(service)) {}
+    virtual ~CServiceFactory() = default;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** result) override {
+        return component::AnswerQuery<IClassFactory>(this, identifier, result);
+    }
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID identifier, void** result) override {
+        return m_bridge->Export<contract::IMessageService>(m_service)->QueryInterface(identifier,
+                                                                                      result);
+    }
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
+
+private:
+    const std::shared_ptr<component::CBridge> m_bridge;
+    const std::shared_ptr<CMessageServiceDouble> m_service;
+
+    KRX8_COUNTED_REFERENCES(CServiceFactory)
+};
+
+class MessageServiceTest : public ControlFixture {
+protected:
+    void SetUp() override {
+        StartConnected();
+        host->device->inside = [](const std::string& call) {
+            if (call != "RequestMode(4)") {
+                return contract::kSuccess;
+            }
+            contract::SetErrorInfo("The plug is loose");
+            return contract::kUnspecifiedFailure;
+        };
+    }
+    void TearDown() override {
+        Revoke();
+        ControlFixture::TearDown();
+    }
+
+    void RegisterService() {
+        const auto factory = component::MakeCom<CServiceFactory>(bridge, service);
+        ASSERT_EQ(CoRegisterClassObject(CLSID_MessageService, factory.Get(), CLSCTX_INPROC_SERVER,
+                                        REGCLS_MULTIPLEUSE, &m_registration),
+                  S_OK);
+    }
+    void Revoke() {
+        if (m_registration) {
+            EXPECT_EQ(CoRevokeClassObject(m_registration), S_OK);
+            m_registration = 0;
+        }
+    }
+
+    const std::shared_ptr<CMessageServiceDouble> service =
+        std::make_shared<CMessageServiceDouble>();
+
+private:
+    DWORD m_registration = 0;
+};
+
+TEST_F(MessageServiceTest, ServiceOfTheHostShowsTheReportWithItsDescription) {
+    RegisterService();
+    EXPECT_TRUE(Press(panel::kResetButton));
+    const Shown expected{"Resetting prommer.", "Prommer Maintenance", 0x10, E_FAIL,
+                         "The plug is loose"};
+    EXPECT_EQ(service->shown, std::vector{expected});
+}
+
+TEST_F(MessageServiceTest, AnswerOfTheServiceCounts) {
+    RegisterService();
+    service->answers = {6};
+    User().ClickRow(panel::kFileList, 2);
+    EXPECT_TRUE(Press(panel::kDeleteButton));
+    EXPECT_EQ(host->device->calls, Calls{"DeleteFile(22, 3)"});
+}
+
+TEST_F(MessageServiceTest, ServiceThatFailsLeavesThePlainBox) {
+    RegisterService();
+    service->status = contract::kUnspecifiedFailure;
+    prompts.ExpectBox(1);
+    EXPECT_TRUE(Press(panel::kResetButton));
+    EXPECT_EQ(prompts.Boxes().at(0).text, "Resetting prommer.\nHRESULT 0x80004005 (-2147467259)");
+}
+
+TEST_F(MessageServiceTest, HostWithoutServiceGetsThePlainBox) {
+    prompts.ExpectBox(1);
+    EXPECT_TRUE(Press(panel::kResetButton));
+    EXPECT_EQ(prompts.Boxes().at(0).caption, "Prommer Maintenance");
+    EXPECT_EQ(prompts.Boxes().at(0).style, 0x10u);
+}
+
+TEST_F(MessageServiceTest, ControlReleasedInsideTheServiceEnds) {
+    RegisterService();
+    service->whileOpen = [&] { container.Release(); };
+    Press(panel::kResetButton);
+    EXPECT_EQ(service->shown.size(), 1u);
+}
+
+}
+
+}

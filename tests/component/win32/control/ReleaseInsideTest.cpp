@@ -1,0 +1,120 @@
+// A host that lets go of the control, or closes it, inside something that the control does.
+
+#include "tests/component/win32/control/ControlFixture.h"
+
+#include "panel/control/PanelTemplate.h"
+
+namespace controltests {
+
+namespace {
+
+constexpr int kOk = 1;
+constexpr int kYes = 6;
+constexpr int kNothing = 0;
+
+struct End {
+    const char* name;
+    void (*act)(CContainer& container);
+};
+
+void PrintTo(const End& end, std::ostream* out) { *out << end.name; }
+
+class ReleaseInsideTest : public ControlFixture, public testing::WithParamInterface<End> {
+protected:
+    void SetUp() override {
+        StartConnected();
+        ASSERT_EQ(container.ActivateForUser(), S_OK);
+        container.Pump();
+    }
+
+    void EndControl() { GetParam().act(container); }
+    /// The control ends inside the first call of that name, which then fails.
+    void EndInside(const std::string& call) {
+        host->device->inside = [this, call](const std::string& made) {
+            if (made != call) {
+                return contract::kSuccess;
+            }
+            host->device->inside = {};
+            EndControl();
+            return contract::kSuccess;
+        };
+    }
+};
+
+TEST_P(ReleaseInsideTest, ARequestToCloseThePanel) {
+    host->viewControl->onClose = [&] { EndControl(); };
+    Press(panel::kCloseButton);
+    EXPECT_EQ(host->viewControl->closeRequests, 1);
+}
+
+TEST_P(ReleaseInsideTest, AConnectionEvent) {
+    EndInside("GetFileListing");
+    host->RaiseState(7);
+    EXPECT_EQ(container.Window(), nullptr);
+}
+
+TEST_P(ReleaseInsideTest, ADeviceCallOfACommand) {
+    EndInside("RequestMode(4)");
+    Press(panel::kResetButton);
+    EXPECT_EQ(host->device->calls, Calls{"RequestMode(4)"});
+}
+
+TEST_P(ReleaseInsideTest, TheQuestionOfAButton) {
+    User().ClickRow(panel::kFileList, 1);
+    prompts.ExpectBox(kYes, [&] { EndControl(); });
+    Press(panel::kDeleteButton);
+    EXPECT_EQ(prompts.Boxes().size(), 1u);
+}
+
+TEST_P(ReleaseInsideTest, TheQuestionOfTheDeleteKeyInTheList) {
+    User().ClickRow(panel::kFileList, 1);
+    prompts.ExpectBox(kYes, [&] { EndControl(); });
+    container.Press(VK_DELETE);
+    EXPECT_EQ(prompts.Boxes().size(), 1u);
+}
+
+TEST_P(ReleaseInsideTest, TheMenuOfTheList) {
+    prompts.ExpectMenu(kNothing, [&] { EndControl(); });
+    User().RightClickRow(panel::kFileList, 0);
+    EXPECT_EQ(prompts.Menus().size(), 1u);
+}
+
+TEST_P(ReleaseInsideTest, ADialog) {
+    prompts.ExpectDialog([&](conformance::IViewUser& user) {
+        EndControl();
+        EXPECT_TRUE(user.Press(kOk));
+    });
+    Press(panel::kDetailsButton);
+}
+
+TEST_P(ReleaseInsideTest, AFileDialog) {
+    prompts.ExpectFileDialog([&](conformance::IFileDialogUser&) { EndControl(); });
+    Press(panel::kUpdateButton);
+    EXPECT_EQ(host->device->calls, Calls{});
+}
+
+TEST_P(ReleaseInsideTest, AKeyThatPressesAButton) {
+    host->viewControl->onClose = [&] { EndControl(); };
+    SetFocus(container.Button(panel::kCloseButton));
+    container.Press(VK_RETURN);
+    EXPECT_EQ(host->viewControl->closeRequests, 1);
+}
+
+constexpr End kEnds[] = {
+    {"Release", [](CContainer& container) { container.Release(); }},
+    {"Close", [](CContainer& container) { container.As<IOleObject>()->Close(OLECLOSE_NOSAVE); }},
+    {"SetClientSiteAndRelease",
+     [](CContainer& container) {
+         container.As<IOleObject>()->Close(OLECLOSE_NOSAVE);
+         container.As<IOleObject>()->SetClientSite(nullptr);
+         container.Release();
+     }},
+    {"InPlaceDeactivate",
+     [](CContainer& container) { container.As<IOleInPlaceObject>()->InPlaceDeactivate(); }},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, ReleaseInsideTest, testing::ValuesIn(kEnds));
+
+}
+
+}
