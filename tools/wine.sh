@@ -1,16 +1,19 @@
 #!/usr/bin/env bash
-# Runs a Windows program under Wine without any display: tools/wine.sh --help says more.
+# Runs a Windows program under Wine, as a rule without any display: tools/wine.sh --help says more.
 set -u
 
 print_help() {
     cat <<'HELP'
-Usage: tools/wine.sh PREFIX [--result FILE] PROGRAM [ARGUMENT]...
+Usage: tools/wine.sh PREFIX [--display] [--result FILE] PROGRAM [ARGUMENT]...
        tools/wine.sh PREFIX --stop
 
 Runs PROGRAM in the Wine installation in the folder PREFIX, which is made when it is missing,
 and ends with its exit status: 124 when it runs longer than KRX8_WINE_SECONDS (300), 5 when
 it crashes. With --result also with status 1 when the program does not write FILE, as one that
 dies before its end would not.
+
+With --display the program's windows are shown by the X server that DISPLAY names, without a
+window manager. PREFIX is then one that has been made so.
 
 --stop ends what runs in PREFIX.
 HELP
@@ -23,16 +26,25 @@ prepare_environment() {
     WINEPREFIX=$(realpath -m "$1")
     export WINEPREFIX WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
     export WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe=d"
-    unset DISPLAY
+    [[ -n $display ]] || unset DISPLAY
+}
+
+# With a display, windows draw their own frames instead of waiting for a window manager, and the
+# fonts of the package fonts-wine are where Wine finds them.
+configure_prefix() {
+    if [[ -z $display ]]; then
+        wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
+    else
+        cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts" &&
+            wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f
+    fi
 }
 
 make_prefix() {
     [[ -e $WINEPREFIX/.ready ]] && return
     rm -rf "$WINEPREFIX"
     mkdir -p "$WINEPREFIX"
-    local no_display='HKCU\Software\Wine\Drivers'
-    wineboot -i && wine reg add "$no_display" /v Graphics /d null /f && wineserver -w &&
-        touch "$WINEPREFIX/.ready"
+    wineboot -i && configure_prefix && wineserver -w && touch "$WINEPREFIX/.ready"
 }
 
 # Wine's services start with the first program, hold on to its output and end with the last one.
@@ -86,8 +98,12 @@ run() {
 
 [[ ${1:-} == --help ]] && { print_help; exit 0; }
 (($# >= 2)) || { print_help >&2; exit 2; }
-prepare_environment "$1"
+prefix=$1
 shift
+display=''
+[[ $1 != --display ]] || { display=1; shift; }
+(($# >= 1)) || { print_help >&2; exit 2; }
+prepare_environment "$prefix"
 if [[ $1 == --stop ]]; then
     stop
     exit
