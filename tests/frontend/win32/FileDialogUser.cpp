@@ -23,9 +23,13 @@ CFileDialogUser::CFileDialogUser(HWND dialog) : m_dialog(dialog) {
     }
 }
 
-bool CFileDialogUser::Accept(const std::string& path) {
+void CFileDialogUser::TypeName(const std::string& name) {
     SendMessageW(NameFieldOf(m_dialog), WM_SETTEXT, 0,
-                 reinterpret_cast<LPARAM>(win32::ToWide(path).c_str()));
+                 reinterpret_cast<LPARAM>(win32::ToWide(name).c_str()));
+}
+
+bool CFileDialogUser::Accept(const std::string& path) {
+    TypeName(path);
     ClickCentre(GetDlgItem(m_dialog, IDOK));
     Pump();
     return !IsOpen();

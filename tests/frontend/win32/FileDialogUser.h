@@ -15,6 +15,9 @@ public:
     bool Accept(const std::string& path) override;
     void Cancel() override;
 
+    /// Into the field for the name, in place of what is there.
+    void TypeName(const std::string& name);
+
     std::string ShownTitle() override;
     std::string ShownName() override;
     std::vector<std::string> ShownFilters() override;

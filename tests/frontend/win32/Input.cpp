@@ -6,7 +6,6 @@ namespace {
 
 constexpr std::wstring_view kDialogClass = L"#32770";
 
-// Each click falls a little beside the one before it, so that no two make a double click.
 int g_aside = 0;
 
 HWND OutermostDialog(HWND window) {
@@ -86,11 +85,16 @@ void ClickScreen(panel::Point place, bool isRight, std::uint16_t heldKey) {
                            MouseInput(isRight ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)}));
 }
 
+int NextAside() {
+    constexpr int kStep = 5;
+    g_aside = (g_aside + kStep) % (3 * kStep);
+    return g_aside - kStep;
+}
+
 void ClickCentre(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
-    g_aside = (g_aside + 5) % 15;
-    ClickScreen({static_cast<int>(place.left + place.right) / 2 + g_aside - 5,
+    ClickScreen({static_cast<int>(place.left + place.right) / 2 + NextAside(),
                  static_cast<int>(place.top + place.bottom) / 2});
 }
 

@@ -17,6 +17,9 @@ void Pump();
 /// Clicks a place on the screen, holding `heldKey` (a virtual-key code; 0: none). The messages are
 /// on their way when it returns.
 void ClickScreen(panel::Point place, bool isRight = false, std::uint16_t heldKey = 0);
+/// How far to the right of its aim the next click falls (-5 to 5), another distance than that of
+/// the click before, so that no two make a double click.
+int NextAside();
 /// Clicks into the middle of a window.
 void ClickCentre(HWND window);
 

@@ -4,6 +4,7 @@
 #include "frontend/win32/Win32View.h"
 #include "tests/frontend/win32/FileDialogUser.h"
 #include "tests/frontend/win32/Input.h"
+#include "tests/frontend/win32/MenuUser.h"
 #include "tests/frontend/win32/Win32ViewUser.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,6 @@ namespace win32tests {
 
 namespace {
 
-constexpr UINT kGetMenu = 0x01E1; // MN_GETHMENU
 constexpr int kBoxText = 0xFFFF;
 constexpr int kForced = 2;
 
@@ -71,7 +71,8 @@ panel::MenuItem ReadItem(HMENU menu, UINT index) {
     return {static_cast<int>(item.wID), win32::FromWide(text)};
 }
 
-conformance::ShownMenu ReadMenu(HWND window, HMENU menu) {
+conformance::ShownMenu ReadMenu(HWND window) {
+    const HMENU menu = MenuOf(window);
     conformance::ShownMenu shown;
     for (int index = 0; index < GetMenuItemCount(menu); ++index) {
         shown.items.push_back(ReadItem(menu, static_cast<UINT>(index)));
@@ -80,25 +81,6 @@ conformance::ShownMenu ReadMenu(HWND window, HMENU menu) {
     GetWindowRect(window, &place);
     shown.corner = {static_cast<int>(place.left), static_cast<int>(place.top)};
     return shown;
-}
-
-void ChooseFromMenu(HMENU menu, int command) {
-    for (int index = 0; index < GetMenuItemCount(menu); ++index) {
-        if (command != panel::kNoCommand &&
-            GetMenuItemID(menu, index) == static_cast<UINT>(command)) {
-            RECT place{};
-            GetMenuItemRect(nullptr, menu, static_cast<UINT>(index), &place);
-            ClickScreen({static_cast<int>(place.left + place.right) / 2,
-                         static_cast<int>(place.top + place.bottom) / 2});
-            return;
-        }
-    }
-    INPUT escape{};
-    escape.type = INPUT_KEYBOARD;
-    escape.ki.wVk = VK_ESCAPE;
-    SendInput(1, &escape, sizeof escape);
-    escape.ki.dwFlags = KEYEVENTF_KEYUP;
-    SendInput(1, &escape, sizeof escape);
 }
 
 }
@@ -173,12 +155,11 @@ void CWin32FrontEndDriver::ExpectDialog(std::function<void(conformance::IViewUse
 
 void CWin32FrontEndDriver::ExpectMenu(int command, std::function<void()> whileOpen) {
     m_prompts.Expect(PromptKind::Menu, [this, command, whileOpen](HWND window) {
-        const auto menu = reinterpret_cast<HMENU>(SendMessageW(window, kGetMenu, 0, 0));
-        m_menus.push_back(ReadMenu(window, menu));
+        m_menus.push_back(ReadMenu(window));
         if (whileOpen) {
             whileOpen();
         }
-        ChooseFromMenu(menu, command);
+        ChooseFromMenu(window, command);
     });
 }
 

@@ -14,6 +14,7 @@ using conformance::Modifier;
 using panel::ControlId;
 
 constexpr int kBelowRows = 3;
+constexpr int kIntoLabel = 8;
 
 struct HeldKey {
     Modifier modifier;
@@ -131,7 +132,7 @@ bool CWin32ViewUser::ClickList(HWND list, int row, bool isRight, std::uint16_t h
         Send(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
         RECT label{LVIR_LABEL, 0, 0, 0};
         Send(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&label));
-        place = {label.left + 5, (label.top + label.bottom) / 2};
+        place = {label.left + kIntoLabel + NextAside(), (label.top + label.bottom) / 2};
     }
     ClientToScreen(list, &place);
     ClickScreen({static_cast<int>(place.x), static_cast<int>(place.y)}, isRight, heldKey);
