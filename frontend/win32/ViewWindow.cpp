@@ -39,6 +39,7 @@ CViewWindow::CViewWindow(const panel::DialogTemplate& dialogTemplate, HWND dialo
     : m_window(dialog),
       m_controls(dialogTemplate, dialog),
       m_focus(dialog),
+      m_font(dialog),
       m_handler(&handler),
       m_cursors(std::move(cursors)),
       m_reportedSize(ClientSizeOf(dialog)) {}

@@ -2,6 +2,7 @@
 
 #include "frontend/win32/ControlTable.h"
 #include "frontend/win32/CursorStack.h"
+#include "frontend/win32/FittingFont.h"
 #include "frontend/win32/FocusMemory.h"
 #include "panel/control/DialogHandler.h"
 
@@ -25,6 +26,7 @@ public:
     HWND Get() const { return m_window; }
     CControlTable& Controls() { return m_controls; }
     CFocusMemory& Focus() { return m_focus; }
+    CFittingFont& Font() { return m_font; }
 
     /// The handler hears nothing more.
     void Cut() { m_handler = nullptr; }
@@ -63,6 +65,7 @@ private:
     HWND m_window;
     CControlTable m_controls;
     CFocusMemory m_focus;
+    CFittingFont m_font;
     panel::IDialogHandler* m_handler;
     std::shared_ptr<const CCursorStack> m_cursors;
     panel::Size m_reportedSize;

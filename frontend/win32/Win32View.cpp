@@ -24,6 +24,7 @@ CWin32View::CWin32View(const panel::DialogTemplate& dialogTemplate, HWND dialog,
         } else if (control.kind == ControlKind::Log) {
             LeaveKeysToDialog(GetDlgItem(dialog, control.id));
         }
+        m_window->Font().Fit(GetDlgItem(dialog, control.id), control.kind);
     }
 }
 
@@ -56,6 +57,7 @@ void CWin32View::SetText(ControlId id, std::string_view text) {
         control->text = FromWide(wide);
         SetWindowTextW(control->window,
                        (IsField(control->kind) ? wide : EscapeMnemonics(wide)).c_str());
+        m_window->Font().Fit(control->window, control->kind);
     }
 }
 
@@ -120,7 +122,9 @@ panel::Rectangle CWin32View::GetRectangle(ControlId id) const {
 
 void CWin32View::Move(ControlId id, const panel::Rectangle& rectangle) {
     if (const HWND control = Find(id)) {
-        Place(control, m_window->Controls().Find(id)->kind, rectangle);
+        const ControlKind kind = m_window->Controls().Find(id)->kind;
+        Place(control, kind, rectangle);
+        m_window->Font().Fit(control, kind);
     }
 }
 

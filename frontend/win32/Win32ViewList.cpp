@@ -9,7 +9,11 @@ namespace win32 {
 using panel::ControlId;
 
 void CWin32View::InsertColumn(ControlId list, int index, const panel::ListColumn& column) {
-    FindList(list).InsertColumn(index, column);
+    const CListControl found = FindList(list);
+    found.InsertColumn(index, column);
+    if (found.GetWindow()) {
+        m_window->Font().FitHeadings(found.GetWindow());
+    }
 }
 
 int CWin32View::InsertRow(ControlId list, int index, std::string_view text) {
