@@ -14,9 +14,9 @@ namespace {
 
 constexpr int kTree = 101;
 constexpr int kPage = 102;
-constexpr int kTreeWidth = 220;
+constexpr int kTreeWidth = 265;
 constexpr int kPageMargin = 8;
-constexpr SIZE kWindowSize{760, 520};
+constexpr SIZE kWindowSize{800, 540};
 constexpr UINT_PTR kSubclass = 1;
 constexpr UINT kShowTopicMessage = WM_APP + 1;
 
@@ -97,13 +97,10 @@ void CHelpWindow::Make(HWND owner) {
 void CHelpWindow::MakeControls() {
     // Brings the class of the page; stays loaded for as long as pages may be shown.
     static const HMODULE library = LoadLibraryW(L"msftedit.dll");
-    m_tree = MakeControl(m_window, WC_TREEVIEWW,
-                         TVS_HASBUTTONS | TVS_LINESATROOT | TVS_SHOWSELALWAYS, kTree);
+    m_tree = MakeControl(m_window, WC_TREEVIEWW, TVS_SHOWSELALWAYS, kTree);
     m_page = MakeControl(m_window, library ? L"RICHEDIT50W" : WC_EDITW,
                          ES_MULTILINE | ES_READONLY | WS_VSCROLL, kPage);
     SendMessageW(m_page, EM_SETEVENTMASK, 0, ENM_LINK);
-    SendMessageW(m_page, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN,
-                 MAKELPARAM(kPageMargin, kPageMargin));
 }
 
 INT_PTR CALLBACK CHelpWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -148,6 +145,12 @@ void CHelpWindow::Arrange() {
     GetClientRect(m_window, &area);
     MoveWindow(m_tree, 0, 0, kTreeWidth, area.bottom, TRUE);
     MoveWindow(m_page, kTreeWidth, 0, area.right - kTreeWidth, area.bottom, TRUE);
+    // Each size makes the page forget its margins.
+    RECT text{};
+    GetClientRect(m_page, &text);
+    InflateRect(&text, -kPageMargin, 0);
+    text.top += kPageMargin;
+    SendMessageW(m_page, EM_SETRECT, 0, reinterpret_cast<LPARAM>(&text));
 }
 
 void CHelpWindow::Read(const std::string& file) {

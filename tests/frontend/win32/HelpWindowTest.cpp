@@ -74,6 +74,16 @@ TEST_F(HelpWindowTest, ClickOnALinkFollowsIt) {
     EXPECT_EQ(PageText(), "File list\nFiles of the device.\n");
 }
 
+TEST_F(HelpWindowTest, PageKeepsItsMarginInAnySize) {
+    Show(1);
+    SetWindowPos(Window(), nullptr, 0, 0, 700, 300, SWP_NOMOVE | SWP_NOZORDER);
+    POINTL begin{};
+    SendMessageW(Page(), EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&begin), 0);
+    constexpr LONG kLeastMargin = 5; // the system takes a pixel or two of it
+    EXPECT_GE(begin.x, kLeastMargin);
+    EXPECT_GE(begin.y, kLeastMargin);
+}
+
 TEST_F(HelpWindowTest, AskedAgainTheSameWindowShowsTheOtherTopic) {
     Show(1);
     const HWND first = Window();
