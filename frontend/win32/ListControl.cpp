@@ -10,6 +10,10 @@ constexpr std::size_t kUsualCellLength = 64;
 
 }
 
+void CListControl::UnfoldCutTexts() const {
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_LABELTIP, LVS_EX_LABELTIP);
+}
+
 void CListControl::InsertColumn(int index, const panel::ListColumn& column) const {
     std::wstring heading = ToWide(column.heading);
     LVCOLUMNW inserted{};

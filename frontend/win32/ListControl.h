@@ -12,6 +12,8 @@ public:
 
     HWND GetWindow() const { return m_window; }
 
+    /// A text that its column cuts off is shown whole under the mouse.
+    void UnfoldCutTexts() const;
     void InsertColumn(int index, const panel::ListColumn& column) const;
     int InsertRow(int index, std::string_view text) const;
     void SetCell(int row, int column, std::string_view text) const;

@@ -23,6 +23,8 @@ CWin32View::CWin32View(const panel::DialogTemplate& dialogTemplate, HWND dialog,
             KeepCharactersWhole(GetDlgItem(dialog, control.id));
         } else if (control.kind == ControlKind::Log) {
             LeaveKeysToDialog(GetDlgItem(dialog, control.id));
+        } else if (IsList(control.kind)) {
+            CListControl(GetDlgItem(dialog, control.id)).UnfoldCutTexts();
         }
         m_window->Font().Fit(GetDlgItem(dialog, control.id), control.kind);
     }

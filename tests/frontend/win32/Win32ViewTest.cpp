@@ -57,6 +57,10 @@ TEST_F(Win32ViewTest, ViewIsAVisibleChildOfTheHostsWindow) {
     EXPECT_TRUE(GetWindowLongPtrW(ViewWindow(), GWL_EXSTYLE) & WS_EX_CONTROLPARENT);
 }
 
+TEST_F(Win32ViewTest, CutTextsOfAListUnfoldUnderTheMouse) {
+    EXPECT_TRUE(SendMessageW(Control(kList), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_LABELTIP);
+}
+
 TEST_F(Win32ViewTest, DestroyedViewLeavesNoWindow) {
     const HWND window = ViewWindow();
     m_view.reset();
