@@ -91,6 +91,14 @@ void CHost::Show() {
     win32tests::Pump();
 }
 
+void CHost::Resize(SIZE client) {
+    ResizeClient(m_window, client);
+    const RECT place{0, 0, client.cx, client.cy};
+    Hand<IOleInPlaceObject>(
+        [&](IOleInPlaceObject& control) { return control.SetObjectRects(&place, &place); });
+    win32tests::Pump();
+}
+
 void CHost::Go() {
     Hand<IGoClient>([](IGoClient& control) { return control.Go(); });
 }

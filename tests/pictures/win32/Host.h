@@ -24,13 +24,16 @@ public:
     /// Has the control read the device.
     void Go();
 
+    /// Gives the window another client area, which the control fills again.
+    void Resize(SIZE client);
+
     HWND GetWindow() const { return m_window; }
     /// The panel's view in the control.
     HWND GetView() const { return m_view; }
 
 private:
     void Show();
-    /// Hands one of the host's objects to the control by one of its interfaces.
+    /// Hands the control what it works with, by one of its interfaces.
     template <class Interface, class Give>
     void Hand(Give give) const;
 

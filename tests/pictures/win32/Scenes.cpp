@@ -21,6 +21,7 @@ constexpr int kUploadPhoneFile = 1;
 constexpr int kUploadFpgaCode = 5;
 constexpr int kUpdateKrx20Software = 9;
 constexpr int kFileRow = 4;
+constexpr SIZE kLargerClient{840, 560};
 constexpr std::chrono::seconds kPatience(20);
 
 void Require(bool condition, const std::string& what) {
@@ -52,6 +53,8 @@ void CScenes::TakeNetworkedDevice() {
     Start("krx-20", "update-prompt");
     SelectRow(kFileRow);
     m_camera.Take(m_host->GetWindow(), "panel-krx-20");
+    m_host->Resize(kLargerClient);
+    m_camera.Take(m_host->GetWindow(), "panel-larger");
     TakeHelp();
     TakeMenuCommands();
     Expect(PromptKind::Dialog, "network", Dismiss);
