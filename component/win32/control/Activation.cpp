@@ -104,10 +104,17 @@ HRESULT CActivation::MakeWindow(HWND parent) {
     if (m_window && m_window->Get()) {
         return S_OK;
     }
-    m_window = CControlWindow::Create(parent, {[this](SIZE client) {
-                                                   m_panel.Resize({client.cx, client.cy});
-                                               },
-                                               [this] { static_cast<void>(ActivateForUser()); }});
+    // Each holds the control, which the container may let go of inside.
+    CControlWindow::Events events;
+    events.onResized = [this](SIZE client) {
+        const ComPtr<IUnknown> self(&m_activeObject);
+        m_panel.Resize({client.cx, client.cy});
+    };
+    events.onActivated = [this] {
+        const ComPtr<IUnknown> self(&m_activeObject);
+        static_cast<void>(ActivateForUser());
+    };
+    m_window = CControlWindow::Create(parent, std::move(events));
     if (!m_window) {
         return HRESULT_FROM_WIN32(GetLastError());
     }

@@ -3,6 +3,9 @@
 #include "tests/component/win32/control/ControlFixture.h"
 
 #include "panel/control/PanelTemplate.h"
+#include "tests/frontend/win32/Input.h"
+
+#include <algorithm>
 
 namespace controltests {
 
@@ -114,6 +117,69 @@ constexpr End kEnds[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, ReleaseInsideTest, testing::ValuesIn(kEnds));
+
+/// A way in which the control's own window begins its UI activation.
+struct Beginning {
+    const char* name;
+    void (*act)(CContainer& container);
+};
+
+void PrintTo(const Beginning& beginning, std::ostream* out) { *out << beginning.name; }
+
+class ReleaseInsideOwnActivationTest : public ControlFixture,
+                                       public testing::WithParamInterface<Beginning> {
+protected:
+    /// Lets go of a control inside the call of that name, and returns all calls that came; those
+    /// from `returned` on came after it had returned.
+    static Calls RunReleasing(CContainer& own, const std::string& call, std::size_t& returned) {
+        Calls before;
+        own.Record().TakeCalls();
+        own.Record().Inside([&](const std::string& made) {
+            if (made == call) {
+                own.Record().Inside({});
+                own.Release();
+                before = own.Record().TakeCalls();
+            }
+        });
+        GetParam().act(own);
+        own.Pump();
+        // The frame and the document may have been given the control after that.
+        own.Release();
+        own.Pump();
+        returned = before.size();
+        const Calls after = own.Record().TakeCalls();
+        before.insert(before.end(), after.begin(), after.end());
+        return before;
+    }
+};
+
+TEST_P(ReleaseInsideOwnActivationTest, EndsTheControlAfterTheCall) {
+    container.Release();
+    for (const char* call :
+         {"OnUIActivate", "frame.SetActiveObject", "frame.SetBorderSpace",
+          "document.SetActiveObject", "document.SetBorderSpace", "OnFocus(true)"}) {
+        SCOPED_TRACE(call);
+        CContainer own(library, window->Get());
+        own.Embed();
+        ASSERT_EQ(own.Activate(), S_OK);
+        std::size_t returned = 0;
+        const Calls calls = RunReleasing(own, call, returned);
+        ASSERT_GT(returned, 0u);
+        EXPECT_EQ(calls[returned - 1], call);
+        EXPECT_EQ(std::ranges::count(calls, "OnUIDeactivate"), 1);
+        EXPECT_EQ(std::ranges::count(calls, "OnInPlaceDeactivate"), 1);
+        EXPECT_EQ(own.Site().Outstanding(), 0u);
+        ExpectNothingLeft();
+    }
+}
+
+constexpr Beginning kBeginnings[] = {
+    {"Click",
+     [](CContainer& container) { win32tests::ClickCentre(container.Button(panel::kStatusLog)); }},
+    {"FocusForItsWindow", [](CContainer& container) { SetFocus(container.Window()); }},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, ReleaseInsideOwnActivationTest, testing::ValuesIn(kBeginnings));
 
 }
 
