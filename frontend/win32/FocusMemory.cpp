@@ -70,16 +70,31 @@ HWND CFocusMemory::TakeWish() {
 }
 
 bool CFocusMemory::CanHaveFocus(HWND control) const {
-    return IsWindowEnabled(control) && IsWindowVisible(control) && !IsInactive();
+    return IsWindowEnabled(control) && IsWindowVisible(control) && !IsInactive() && IsAllowed();
 }
 
 // A focus that nobody gave to a control, as the window's own on activation, does not count.
 bool CFocusMemory::IsWanted() const {
     const HWND focused = ::GetFocus();
+    if (m_mayTakeFocus && !IsInView(focused)) {
+        return true;
+    }
     return !focused || focused == m_before || focused == m_view || focused == RootOf(m_view) ||
            RootOf(focused) != RootOf(m_view);
 }
 
 bool CFocusMemory::IsInactive() const { return GetActiveWindow() != RootOf(m_view); }
+
+bool CFocusMemory::IsInView(HWND window) const {
+    return window == m_view || IsChild(m_view, window);
+}
+
+bool CFocusMemory::IsAllowed() const {
+    const HWND focused = ::GetFocus();
+    if (!m_mayTakeFocus || IsInView(focused)) {
+        return true;
+    }
+    return (!focused || IsChild(focused, m_view)) && m_mayTakeFocus();
+}
 
 }

@@ -2,16 +2,28 @@
 
 #include "frontend/win32/WinApi.h"
 
+#include <functional>
+#include <utility>
+
 namespace win32 {
+
+/// Whether a view may take the focus that is outside of it; an empty one says that it may.
+///
+/// One that may not keeps its wishes until the focus comes into it, and one that may takes the
+/// focus from a window around it, but from no control of its host's. Asked for as long as the
+/// view's window lives.
+using FocusRule = std::function<bool()>;
 
 /// Gives the controls of a view the keyboard focus, one that cannot have it yet as soon as it can:
 /// one that is disabled, or whose window is neither shown nor active (the system would make it
 /// active, in front of the user's work).
 ///
-/// The wish is dropped when another control of the same top-level window has got the focus since.
+/// The wish is dropped when another control of the same top-level window has got the focus since;
+/// under a rule, when another control of the view has.
 class CFocusMemory {
 public:
-    explicit CFocusMemory(HWND view) : m_view(view) {}
+    CFocusMemory(HWND view, FocusRule mayTakeFocus)
+        : m_view(view), m_mayTakeFocus(std::move(mayTakeFocus)) {}
 
     void Focus(HWND control);
     /// The window in the view that has, or is next to get, the focus; null when none.
@@ -33,8 +45,11 @@ private:
     bool CanHaveFocus(HWND control) const;
     bool IsWanted() const;
     bool IsInactive() const;
+    bool IsInView(HWND window) const;
+    bool IsAllowed() const;
 
     HWND m_view;
+    FocusRule m_mayTakeFocus;
     HWND m_next = nullptr;
     HWND m_before = nullptr; // what had the focus when the wish arose
 };

@@ -22,9 +22,10 @@ panel::Size ClientSizeOf(HWND window) {
 
 std::shared_ptr<CViewWindow> CViewWindow::Attach(const panel::DialogTemplate& dialogTemplate,
                                                  HWND dialog, panel::IDialogHandler& handler,
-                                                 std::shared_ptr<const CCursorStack> cursors) {
-    const std::shared_ptr<CViewWindow> window(
-        new CViewWindow(dialogTemplate, dialog, handler, std::move(cursors)));
+                                                 std::shared_ptr<const CCursorStack> cursors,
+                                                 FocusRule mayTakeFocus) {
+    const std::shared_ptr<CViewWindow> window(new CViewWindow(
+        dialogTemplate, dialog, handler, std::move(cursors), std::move(mayTakeFocus)));
     auto reference = std::make_unique<Reference>(window);
     if (SetWindowSubclass(dialog, Procedure, kSubclass,
                           reinterpret_cast<DWORD_PTR>(reference.get()))) {
@@ -35,10 +36,10 @@ std::shared_ptr<CViewWindow> CViewWindow::Attach(const panel::DialogTemplate& di
 
 CViewWindow::CViewWindow(const panel::DialogTemplate& dialogTemplate, HWND dialog,
                          panel::IDialogHandler& handler,
-                         std::shared_ptr<const CCursorStack> cursors)
+                         std::shared_ptr<const CCursorStack> cursors, FocusRule mayTakeFocus)
     : m_window(dialog),
       m_controls(dialogTemplate, dialog),
-      m_focus(dialog),
+      m_focus(dialog, std::move(mayTakeFocus)),
       m_font(dialog),
       m_handler(&handler),
       m_cursors(std::move(cursors)),

@@ -20,7 +20,8 @@ public:
     /// Joins a dialog that has just been made.
     static std::shared_ptr<CViewWindow> Attach(const panel::DialogTemplate& dialogTemplate,
                                                HWND dialog, panel::IDialogHandler& handler,
-                                               std::shared_ptr<const CCursorStack> cursors);
+                                               std::shared_ptr<const CCursorStack> cursors,
+                                               FocusRule mayTakeFocus);
 
     /// Null once it has ended.
     HWND Get() const { return m_window; }
@@ -38,7 +39,8 @@ public:
 
 private:
     CViewWindow(const panel::DialogTemplate& dialogTemplate, HWND dialog,
-                panel::IDialogHandler& handler, std::shared_ptr<const CCursorStack> cursors);
+                panel::IDialogHandler& handler, std::shared_ptr<const CCursorStack> cursors,
+                FocusRule mayTakeFocus);
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                       UINT_PTR identifier, DWORD_PTR reference);

@@ -13,6 +13,8 @@
 #include "frontend/win32/Win32View.h"
 #include "panel/control/DialogHandler.h"
 
+#include <utility>
+
 namespace win32 {
 
 namespace {
@@ -38,7 +40,7 @@ HWND MakeChild(const panel::DialogTemplate& dialogTemplate, HWND parent) {
 
 }
 
-CWin32Toolkit::CWin32Toolkit() = default;
+CWin32Toolkit::CWin32Toolkit(FocusRule mayTakeFocus) : m_mayTakeFocus(std::move(mayTakeFocus)) {}
 
 CWin32Toolkit::~CWin32Toolkit() {
     while (m_waitCursors > 0) {
@@ -54,7 +56,8 @@ std::unique_ptr<panel::IView> CWin32Toolkit::CreateView(const panel::DialogTempl
     if (!window) {
         return nullptr;
     }
-    auto view = std::make_unique<CWin32View>(dialogTemplate, window, handler, m_cursors);
+    auto view =
+        std::make_unique<CWin32View>(dialogTemplate, window, handler, m_cursors, m_mayTakeFocus);
     m_panelWindow = window;
     handler.OnInit(*view);
     view->Show();

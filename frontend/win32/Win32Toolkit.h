@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frontend/win32/CursorStack.h"
+#include "frontend/win32/FocusMemory.h"
 #include "frontend/win32/SystemFile.h"
 #include "frontend/win32/SystemRegistry.h"
 #include "panel/control/FileDialog.h"
@@ -17,7 +18,8 @@ class CWin32View;
 /// apartment with a message loop, which hands the keys of the view's window to IsDialogMessage.
 class CWin32Toolkit : public panel::IToolkit {
 public:
-    CWin32Toolkit();
+    /// The rule is that of its views; dialogs have the focus in any case.
+    explicit CWin32Toolkit(FocusRule mayTakeFocus = {});
     ~CWin32Toolkit() override;
 
     /// `nativeParent` is an HWND.
@@ -51,6 +53,7 @@ private:
     /// The top-level window, or null when there is none.
     HWND FindOwner(panel::Owner owner) const;
 
+    const FocusRule m_mayTakeFocus;
     CSystemRegistry m_registry;
     std::shared_ptr<CCursorStack> m_cursors = std::make_shared<CCursorStack>();
     HWND m_panelWindow = nullptr;

@@ -14,10 +14,11 @@ using panel::ControlId;
 using panel::ControlKind;
 
 CWin32View::CWin32View(const panel::DialogTemplate& dialogTemplate, HWND dialog,
-                       panel::IDialogHandler& handler,
-                       std::shared_ptr<const CCursorStack> cursors) {
+                       panel::IDialogHandler& handler, std::shared_ptr<const CCursorStack> cursors,
+                       FocusRule mayTakeFocus) {
     PlaceControls(dialog, dialogTemplate);
-    m_window = CViewWindow::Attach(dialogTemplate, dialog, handler, std::move(cursors));
+    m_window = CViewWindow::Attach(dialogTemplate, dialog, handler, std::move(cursors),
+                                   std::move(mayTakeFocus));
     for (const panel::ControlTemplate& control : dialogTemplate.controls) {
         if (control.kind == ControlKind::EditField) {
             KeepCharactersWhole(GetDlgItem(dialog, control.id));

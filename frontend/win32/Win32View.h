@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frontend/win32/CursorStack.h"
+#include "frontend/win32/FocusMemory.h"
 #include "panel/control/View.h"
 
 #include <functional>
@@ -26,7 +27,8 @@ public:
     /// Joins a dialog that the system has just made of the template (DialogResource.h) and ends it
     /// with the view. Does not call OnInit.
     CWin32View(const panel::DialogTemplate& dialogTemplate, HWND dialog,
-               panel::IDialogHandler& handler, std::shared_ptr<const CCursorStack> cursors);
+               panel::IDialogHandler& handler, std::shared_ptr<const CCursorStack> cursors,
+               FocusRule mayTakeFocus = {});
     ~CWin32View() override;
 
     /// Makes it the view of a modal dialog: `endDialog` is what EndDialog does, and the cancel

@@ -8,6 +8,10 @@
 
 namespace component {
 
+/// How far the control is in its container. Moving is on the way in or out; no activation begins
+/// there.
+enum class Stage { Outside, Moving, InPlace, ForUser };
+
 /// The control's way into its container and out again: nothing shown, active in place, active for
 /// the user. Leaves with every reference it has taken, whatever the site answers. The container may
 /// deactivate it, close it and let go of it inside each call that it gets.
@@ -16,8 +20,9 @@ namespace component {
 /// keeps it where nobody sees it, and one whose view has ended cannot be activated again.
 class CActivation {
 public:
-    CActivation(contract::IPanel& panel, IOleInPlaceActiveObject& activeObject)
-        : m_panel(panel), m_activeObject(activeObject) {}
+    /// Keeps `stage` up to date.
+    CActivation(contract::IPanel& panel, IOleInPlaceActiveObject& activeObject, Stage& stage)
+        : m_panel(panel), m_activeObject(activeObject), m_stage(stage) {}
 
     /// Shows the control in the place that `site` gives it; with `forUser` it is also given the
     /// keyboard and the frame's menus. Fails where the site will have none of it; what it has
@@ -36,8 +41,6 @@ public:
     bool HasFocus() const { return m_window && m_window->HasFocus(); }
 
 private:
-    /// Moving is on the way in or out; no activation begins there.
-    enum class Stage { Outside, Moving, InPlace, ForUser };
     struct Context;
     /// The container's frame and document window; null where it has none.
     using Frames = std::array<ComPtr<IOleInPlaceUIWindow>, 2>;
@@ -51,7 +54,7 @@ private:
 
     contract::IPanel& m_panel;
     IOleInPlaceActiveObject& m_activeObject;
-    Stage m_stage = Stage::Outside;
+    Stage& m_stage;
     /// The site that has been told of the activation.
     ComPtr<IOleInPlaceSite> m_site;
     Frames m_frames;

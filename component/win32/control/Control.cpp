@@ -3,6 +3,8 @@
 #include "component/win32/control/Extent.h"
 #include "frontend/win32/Win32Toolkit.h"
 
+#include <utility>
+
 namespace component {
 
 namespace {
@@ -10,9 +12,17 @@ namespace {
 /// The panel owns its toolkit, so the library is in use until the panel ends, however long handlers
 /// of its own keep that alive.
 class CCountedToolkit : public win32::CWin32Toolkit {
+public:
+    using CWin32Toolkit::CWin32Toolkit;
+
 private:
     const CUse m_use{Module()};
 };
+
+// The keyboard is the container's until it has made the control active for the user.
+win32::FocusRule OnlyForUser(std::shared_ptr<const Stage> stage) {
+    return [stage = std::move(stage)] { return *stage == Stage::ForUser; };
+}
 
 SIZEL NaturalExtent(const contract::IPanel& panel) {
     const contract::PixelSize size = panel.GetNaturalSize();
@@ -36,10 +46,11 @@ bool ServesHost(const std::shared_ptr<CBridge>& bridge, std::shared_ptr<Interfac
 ComPtr<IUnknown> CControl::Create() { return TakeOver(new CControl()); }
 
 CControl::CControl()
-    : m_panel(panel::CKRX8Maintenance::Create(std::make_unique<CCountedToolkit>())),
+    : m_panel(
+          panel::CKRX8Maintenance::Create(std::make_unique<CCountedToolkit>(OnlyForUser(m_stage)))),
       m_site(NaturalExtent(*m_panel)),
       m_activeObject(*this, m_site, m_activation),
-      m_activation(*m_panel, m_activeObject),
+      m_activation(*m_panel, m_activeObject, *m_stage),
       m_oleObject(*this, m_site, m_activation),
       m_oleControl(*this, m_activation),
       m_inPlaceObject(*this, m_activation),

@@ -42,6 +42,8 @@ private:
     HRESULT QueryHostInterface(REFIID identifier, void** result);
 
     const std::shared_ptr<CBridge> m_bridge = std::make_shared<CBridge>();
+    /// Outlives the control with its panel, whose views ask for it.
+    const std::shared_ptr<Stage> m_stage = std::make_shared<Stage>(Stage::Outside);
     const std::shared_ptr<panel::CKRX8Maintenance> m_panel;
     CClientSite m_site;
     CInPlaceActiveObject m_activeObject;

@@ -22,6 +22,13 @@ protected:
         GetClientRect(container.View(), &area);
         return area;
     }
+    /// A field of the host's beside the control; it has the keyboard.
+    HWND MakeHostField() {
+        const HWND field = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0,
+                                           0, 100, 15, window->Get(), nullptr, nullptr, nullptr);
+        SetFocus(field);
+        return field;
+    }
     ComPtr<IOleInPlaceObject> InPlace() { return container.As<IOleInPlaceObject>(); }
 };
 
@@ -202,6 +209,44 @@ TEST_F(ActivationTest, FocusGivenToItsWindowMakesItActiveForTheUser) {
     SetFocus(container.Window());
     EXPECT_NE(container.Site().Frame().Active(), nullptr);
     EXPECT_TRUE(IsChild(container.Window(), GetFocus()));
+}
+
+TEST_F(ActivationTest, DeviceThatConnectsLeavesTheKeyboardInTheHostsField) {
+    const HWND field = MakeHostField();
+    Start();
+    Connect();
+    EXPECT_EQ(GetFocus(), field);
+    EXPECT_EQ(container.Site().Frame().Active(), nullptr);
+    EXPECT_EQ(container.ActivateForUser(), S_OK);
+    EXPECT_EQ(GetFocus(), container.Button(panel::kUpdateButton));
+}
+
+TEST_F(ActivationTest, DeviceThatConnectsLeavesTheKeyboardInTheHostsWindow) {
+    SetFocus(window->Get());
+    StartConnected();
+    EXPECT_EQ(GetFocus(), window->Get());
+    EXPECT_EQ(container.ActivateForUser(), S_OK);
+    EXPECT_EQ(GetFocus(), container.Button(panel::kUpdateButton));
+}
+
+TEST_F(ActivationTest, DeviceLostAndFoundLeavesTheKeyboardInTheHostsField) {
+    const HWND field = MakeHostField();
+    StartConnected();
+    container.ActivateForUser();
+    host->RaiseState(5);
+    SetFocus(field);
+    host->RaiseState(7);
+    container.Pump();
+    EXPECT_EQ(GetFocus(), field);
+}
+
+TEST_F(ActivationTest, DeviceThatConnectsGivesTheKeyboardToAControlActiveForTheUser) {
+    Start();
+    container.ActivateForUser();
+    ASSERT_EQ(GetFocus(), container.View());
+    SetFocus(window->Get()); // as the system does when the frame becomes active again
+    Connect();
+    EXPECT_EQ(GetFocus(), container.Button(panel::kUpdateButton));
 }
 
 TEST_F(ActivationTest, SiteIsToldOfFocusWithUiActivation) {
