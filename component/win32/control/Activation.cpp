@@ -162,9 +162,11 @@ void CActivation::DeactivateForUser() {
 }
 
 void CActivation::LeaveFrames() {
+    // Those of now: the container may end the activation altogether inside the first call.
     const ComPtr<IOleInPlaceSite> site = m_site;
+    const Frames frames = m_frames;
     TellFocus(*site.Get(), FALSE);
-    for (const auto& frame : Frames(m_frames)) {
+    for (const auto& frame : frames) {
         if (frame) {
             frame->SetActiveObject(nullptr, nullptr);
         }

@@ -120,6 +120,10 @@ protected:
         const auto object = own.As<IOleObject>();
         static_cast<void>(own.ActivateForUser());
         static_cast<void>(object->DoVerb(OLEIVERB_HIDE, nullptr, nullptr, 0, nullptr, nullptr));
+        if (!own.Window()) {
+            EXPECT_EQ(own.Site().Frame().Active(), nullptr);
+            EXPECT_EQ(own.Site().Document().Active(), nullptr);
+        }
         own.Release();
         object->SetClientSite(nullptr);
         own.Pump();
