@@ -1,7 +1,5 @@
 #include "frontend/win32/Font.h"
 
-#include "frontend/win32/WinApi.h"
-
 #include <memory>
 #include <string_view>
 #include <type_traits>
@@ -18,17 +16,11 @@ struct FontEnd {
 };
 using OwnedFont = std::unique_ptr<std::remove_pointer_t<HFONT>, FontEnd>;
 
-OwnedFont MakeFont(HDC context) {
-    LOGFONTW font{};
-    font.lfHeight = -MulDiv(kFontPoints, GetDeviceCaps(context, LOGPIXELSY), kPointsPerInch);
-    font.lfWeight = FW_NORMAL;
-    font.lfCharSet = DEFAULT_CHARSET;
-    std::wstring_view(kFontName).copy(font.lfFaceName, LF_FACESIZE - 1);
-    return OwnedFont(CreateFontIndirectW(&font));
-}
+int DotsPerInch(HDC context) { return GetDeviceCaps(context, LOGPIXELSY); }
 
 panel::FontMetrics Measure(HDC context) {
-    const OwnedFont font = MakeFont(context);
+    const LOGFONTW description = DescribeFont(DotsPerInch(context));
+    const OwnedFont font(CreateFontIndirectW(&description));
     const HGDIOBJ previous = SelectObject(context, font.get());
     SIZE alphabet{};
     GetTextExtentPoint32W(context, kAlphabet.data(), static_cast<int>(kAlphabet.size()), &alphabet);
@@ -39,6 +31,25 @@ panel::FontMetrics Measure(HDC context) {
             static_cast<int>(metrics.tmHeight + metrics.tmExternalLeading)};
 }
 
+}
+
+LOGFONTW DescribeFont(int dotsPerInch) {
+    LOGFONTW font{};
+    font.lfHeight = -MulDiv(kFontPoints, dotsPerInch, kPointsPerInch);
+    font.lfWeight = FW_NORMAL;
+    font.lfCharSet = DEFAULT_CHARSET;
+    std::wstring_view(kFontName).copy(font.lfFaceName, LF_FACESIZE - 1);
+    return font;
+}
+
+HFONT MakeFont() {
+    const HDC screen = GetDC(nullptr);
+    if (!screen) {
+        return nullptr;
+    }
+    const LOGFONTW font = DescribeFont(DotsPerInch(screen));
+    ReleaseDC(nullptr, screen);
+    return CreateFontIndirectW(&font);
 }
 
 panel::FontMetrics MeasureFont() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frontend/win32/WinApi.h"
 #include "panel/control/DialogTemplate.h"
 
 namespace win32 {
@@ -7,6 +8,12 @@ namespace win32 {
 /// The font of every view and dialog: the shell's dialog font.
 inline constexpr const wchar_t* kFontName = L"MS Shell Dlg";
 inline constexpr int kFontPoints = 8;
+
+/// That font for a screen of so many dots per inch.
+LOGFONTW DescribeFont(int dotsPerInch);
+/// For the main screen, as it is measured and laid out with. The caller ends it; null when the
+/// system has no memory for it.
+HFONT MakeFont();
 
 /// Measures that font on the main screen. Zeros when the system has no memory for it.
 panel::FontMetrics MeasureFont();

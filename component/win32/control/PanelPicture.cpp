@@ -29,10 +29,7 @@ public:
                          nullptr);
         SetBkMode(context, TRANSPARENT);
         SetTextColor(context, GetSysColor(COLOR_BTNTEXT));
-        LOGFONTW font{};
-        font.lfHeight = -MulDiv(win32::kFontPoints, 96, 72);
-        std::wstring(win32::kFontName).copy(font.lfFaceName, LF_FACESIZE - 1);
-        m_font = CreateFontIndirectW(&font);
+        m_font = win32::MakeFont();
         SelectObject(context, m_font);
     }
     ~CDrawing() {
