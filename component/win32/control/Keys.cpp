@@ -30,6 +30,12 @@ bool LeavesView(HWND view, bool isBackwards) {
     return isBackwards ? next >= from : next <= from;
 }
 
+// The keys of A to Z are numbered as the capitals, on keyboards without Latin letters too.
+WORD KeyOf(char letter) {
+    const bool isSmall = letter >= 'a' && letter <= 'z';
+    return static_cast<WORD>(isSmall ? letter - 'a' + 'A' : letter);
+}
+
 bool IsPushButton(HWND control) {
     constexpr LRESULT kPushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
     return (SendMessageW(control, WM_GETDLGCODE, 0, 0) & kPushButton) != 0;
@@ -87,8 +93,7 @@ std::vector<ACCEL> Mnemonics() {
         const std::string_view text = control.text;
         const std::size_t mark = text.find('&');
         if (mark + 1 < text.size() && mark != std::string_view::npos) {
-            const auto key = static_cast<WORD>(VkKeyScanW(static_cast<wchar_t>(text[mark + 1])));
-            mnemonics.push_back({FALT | FVIRTKEY, static_cast<WORD>(LOBYTE(key)), control.id});
+            mnemonics.push_back({FALT | FVIRTKEY, KeyOf(text[mark + 1]), control.id});
         }
     }
     return mnemonics;
