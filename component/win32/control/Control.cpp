@@ -53,7 +53,7 @@ CControl::CControl()
       m_activation(*m_panel, m_activeObject, *m_stage),
       m_oleObject(*this, m_site, m_activation),
       m_oleControl(*this, m_activation),
-      m_inPlaceObject(*this, m_activation),
+      m_inPlaceObject(*this, m_site, m_activation),
       m_viewObject(*this, m_site, m_activation),
       m_persistStreamInit(*this, m_site),
       m_persistStorage(*this, m_site),

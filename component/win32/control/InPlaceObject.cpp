@@ -23,6 +23,7 @@ HRESULT CInPlaceObject::ContextSensitiveHelp(BOOL) { return E_NOTIMPL; }
 HRESULT CInPlaceObject::InPlaceDeactivate() {
     return Enter([&] {
         m_activation.Deactivate();
+        m_site.TellViewChanged();
         return S_OK;
     });
 }

@@ -9,8 +9,8 @@ namespace component {
 /// The control in its place in a container.
 class CInPlaceObject final : public CPart<IOleInPlaceObject> {
 public:
-    CInPlaceObject(IControl& control, CActivation& activation)
-        : CPart(control), m_activation(activation) {}
+    CInPlaceObject(IControl& control, CClientSite& site, CActivation& activation)
+        : CPart(control), m_site(site), m_activation(activation) {}
 
     HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override;
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL enter) override;
@@ -20,6 +20,7 @@ public:
     HRESULT STDMETHODCALLTYPE ReactivateAndUndo() override;
 
 private:
+    CClientSite& m_site;
     CActivation& m_activation;
 };
 

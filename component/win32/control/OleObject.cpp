@@ -25,10 +25,14 @@ HRESULT CopyText(const wchar_t* text, LPOLESTR* copy) {
 
 HRESULT COleObject::SetClientSite(IOleClientSite* site) {
     return Enter([&] {
+        const bool wasShown = site != m_site.Get() && m_activation.GetWindow();
         if (site != m_site.Get()) {
             m_activation.Deactivate();
         }
         m_site.Set(site);
+        if (wasShown) {
+            m_site.TellViewChanged();
+        }
         return S_OK;
     });
 }
@@ -52,6 +56,7 @@ HRESULT COleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
 HRESULT COleObject::Close(DWORD) {
     return Enter([&] {
         m_activation.Close();
+        m_site.TellViewChanged();
         m_site.TellClosed();
         return S_OK;
     });
@@ -92,6 +97,7 @@ HRESULT COleObject::DoVerb(LONG verb, MSG*, IOleClientSite* activeSite, LONG, HW
 
 HRESULT COleObject::Hide() {
     m_activation.Deactivate();
+    m_site.TellViewChanged();
     if (m_site.Get()) {
         m_site.Get()->OnShowWindow(FALSE);
     }

@@ -36,6 +36,7 @@ HRESULT CPersistentState::Load(IStream& stream) {
         return STG_E_DOCFILECORRUPT;
     }
     m_site.SetExtent({record.width, record.height});
+    m_site.TellViewChanged();
     return S_OK;
 }
 

@@ -82,6 +82,20 @@ INSTANTIATE_TEST_SUITE_P(All, GarbageTest,
                                          Garbage{{2, 5000, 6000}, 12}, Garbage{{1, -1, 6000}, 12},
                                          Garbage{{1, 5000, -6000}, 12}));
 
+TEST_F(PersistenceTest, LoadIsToldToWhoKeepsAPicture) {
+    CListener listener;
+    const auto view = container.As<IViewObject2>();
+    const auto storage = EmptyStorage();
+    const auto stream = StreamOf({1, 5000, 6000}, 12);
+    EXPECT_EQ(Storages()->Save(storage.Get(), TRUE), S_OK);
+    view->SetAdvise(DVASPECT_CONTENT, 0, &listener);
+    EXPECT_EQ(Streams()->Load(stream.Get()), S_OK);
+    EXPECT_EQ(listener.calls, Calls{"OnViewChange"});
+    EXPECT_EQ(Storages()->Load(storage.Get()), S_OK);
+    EXPECT_EQ(listener.calls, (Calls{"OnViewChange", "OnViewChange"}));
+    view->SetAdvise(0, 0, nullptr);
+}
+
 TEST_F(PersistenceTest, StreamThatFailsIsReported) {
     const auto storage = EmptyStorage();
     ComPtr<IStream> stream;

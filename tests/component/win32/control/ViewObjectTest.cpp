@@ -127,6 +127,39 @@ TEST_F(ViewObjectTest, ViewChangeIsToldToTheListener) {
     EXPECT_EQ(listener.Outstanding(), 0u);
 }
 
+TEST_F(ViewObjectTest, DeactivationIsToldToTheListener) {
+    StartConnected();
+    View()->SetAdvise(DVASPECT_CONTENT, 0, &listener);
+    listener.inside = [&] { EXPECT_EQ(container.Window(), nullptr); };
+    container.As<IOleInPlaceObject>()->InPlaceDeactivate();
+    EXPECT_EQ(listener.calls, Calls{"OnViewChange"});
+    container.Activate();
+    container.DoVerb(OLEIVERB_HIDE);
+    EXPECT_EQ(listener.calls, (Calls{"OnViewChange", "OnViewChange"}));
+    container.Activate();
+    container.As<IOleObject>()->SetClientSite(nullptr);
+    EXPECT_EQ(listener.calls.size(), 3u);
+    View()->SetAdvise(0, 0, nullptr);
+}
+
+TEST_F(ViewObjectTest, CloseIsToldOnceThePictureHasChanged) {
+    StartConnected();
+    View()->SetAdvise(DVASPECT_CONTENT, 0, &listener);
+    const HWND view = container.View();
+    listener.inside = [&] { EXPECT_FALSE(IsWindow(view)); };
+    container.As<IOleObject>()->Close(OLECLOSE_NOSAVE);
+    EXPECT_EQ(listener.calls, Calls{"OnViewChange"});
+    View()->SetAdvise(0, 0, nullptr);
+}
+
+TEST_F(ViewObjectTest, ControlLetGoOfTellsTheListenerNothing) {
+    StartConnected();
+    View()->SetAdvise(DVASPECT_CONTENT, 0, &listener);
+    container.Release();
+    EXPECT_EQ(listener.calls, Calls{});
+    EXPECT_EQ(listener.Outstanding(), 0u);
+}
+
 TEST_F(ViewObjectTest, ListenerForOnceIsPrimedAndForgotten) {
     View()->SetAdvise(DVASPECT_CONTENT, ADVF_PRIMEFIRST | ADVF_ONLYONCE, &listener);
     EXPECT_EQ(listener.calls, Calls{"OnViewChange"});
