@@ -2,6 +2,8 @@
 
 #include "frontend/win32/Module.h"
 
+#include <atomic>
+
 namespace win32 {
 
 namespace {
@@ -18,10 +20,27 @@ HANDLE MakeContext() {
     return CreateActCtxW(&context);
 }
 
-// Made once for the life of the component: making it reads files.
+std::atomic<HANDLE> g_context{nullptr};
+
+void Release(HANDLE context) {
+    if (context && context != INVALID_HANDLE_VALUE) {
+        ReleaseActCtx(context);
+    }
+}
+
+// Made once for the life of the component: making it reads files. Of two threads that make it at a
+// time the second one gives its own back.
 HANDLE OwnContext() {
-    static const HANDLE context = MakeContext();
-    return context;
+    if (const HANDLE context = g_context) {
+        return context;
+    }
+    const HANDLE made = MakeContext();
+    HANDLE earlier = nullptr;
+    if (g_context.compare_exchange_strong(earlier, made)) {
+        return made;
+    }
+    Release(made);
+    return earlier;
 }
 
 }
@@ -36,6 +55,8 @@ CActivationContext::~CActivationContext() {
         DeactivateActCtx(0, m_cookie);
     }
 }
+
+void ForgetActivationContext() { Release(g_context.exchange(nullptr)); }
 
 void RegisterControlClasses() {
     INITCOMMONCONTROLSEX classes{};

@@ -21,6 +21,9 @@ private:
     bool m_isActive = false;
 };
 
+/// Gives back what the contexts share; for the end of the component. A later one makes it again.
+void ForgetActivationContext();
+
 /// Makes the classes of all controls that views are made of known. Call inside a context.
 void RegisterControlClasses();
 

@@ -5,6 +5,7 @@
 #include "component/win32/control/ClassFactory.h"
 #include "component/win32/control/ControlWindow.h"
 #include "component/win32/server/SystemRegistrar.h"
+#include "frontend/win32/ActivationContext.h"
 #include "frontend/win32/Module.h"
 #include "frontend/win32/Text.h"
 #include "panel/registration/ComponentIdentity.h"
@@ -87,6 +88,7 @@ BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* isProcessEnding) {
         DisableThreadLibraryCalls(module);
     } else if (reason == DLL_PROCESS_DETACH && !isProcessEnding) {
         component::ForgetControlWindows();
+        win32::ForgetActivationContext();
     }
     return TRUE;
 }

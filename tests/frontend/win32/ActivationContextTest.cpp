@@ -24,6 +24,25 @@ TEST(ActivationContextTest, ContextBringsVersionSixOfTheControls) {
         << FromWide(FileOfControls());
 }
 
+TEST(ActivationContextTest, ContextForgottenIsMadeAgain) {
+    HANDLE first = nullptr;
+    {
+        const CActivationContext context;
+        GetCurrentActCtx(&first); // with a reference
+    }
+    ForgetActivationContext();
+    ForgetActivationContext();
+    HANDLE second = nullptr;
+    {
+        const CActivationContext context;
+        EXPECT_TRUE(context.IsActive());
+        GetCurrentActCtx(&second);
+    }
+    EXPECT_NE(first, second);
+    ReleaseActCtx(first);
+    ReleaseActCtx(second);
+}
+
 TEST(ActivationContextTest, ContextsNestAndEnd) {
     HANDLE before = nullptr;
     GetCurrentActCtx(&before);
