@@ -1,6 +1,7 @@
 #include "frontend/win32/Dialog.h"
 
 #include "frontend/win32/ActivationContext.h"
+#include "frontend/win32/Barrier.h"
 #include "frontend/win32/DialogResource.h"
 #include "frontend/win32/Module.h"
 #include "frontend/win32/Placement.h"
@@ -30,7 +31,16 @@ panel::DialogOutcome CDialog::Run(HWND owner) {
 }
 
 INT_PTR CALLBACK CDialog::Procedure(HWND window, UINT message, WPARAM, LPARAM lParam) {
-    return message == WM_INITDIALOG && reinterpret_cast<CDialog*>(lParam)->Init(window);
+    if (message != WM_INITDIALOG) {
+        return FALSE;
+    }
+    auto& self = *reinterpret_cast<CDialog*>(lParam);
+    const auto isSystemsChoice =
+        Contained(std::optional<bool>(), [&] { return std::optional<bool>(self.Init(window)); });
+    if (!isSystemsChoice) {
+        EndDialog(window, 0);
+    }
+    return isSystemsChoice.value_or(false);
 }
 
 bool CDialog::Init(HWND window) {

@@ -1,5 +1,6 @@
 #include "frontend/win32/EditControl.h"
 
+#include "frontend/win32/Barrier.h"
 #include "frontend/win32/Text.h"
 
 #include <limits>
@@ -63,7 +64,8 @@ bool IsHalfTooMany(HWND edit, wchar_t typed) {
 
 LRESULT CALLBACK WholeCharacters(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
                                  UINT_PTR identifier, DWORD_PTR) {
-    if (message == WM_CHAR && IsHalfTooMany(edit, static_cast<wchar_t>(wParam))) {
+    if (message == WM_CHAR &&
+        Contained(false, [&] { return IsHalfTooMany(edit, static_cast<wchar_t>(wParam)); })) {
         return 0;
     }
     if (message == WM_NCDESTROY) {
@@ -71,7 +73,7 @@ LRESULT CALLBACK WholeCharacters(HWND edit, UINT message, WPARAM wParam, LPARAM 
     }
     const LRESULT result = DefSubclassProc(edit, message, wParam, lParam);
     if (message == WM_PASTE) {
-        RemoveHalfBeforeCaret(edit);
+        Contained([&] { RemoveHalfBeforeCaret(edit); });
     }
     return result;
 }

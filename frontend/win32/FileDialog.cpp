@@ -1,6 +1,7 @@
 #include "frontend/win32/FileDialog.h"
 
 #include "frontend/win32/ActivationContext.h"
+#include "frontend/win32/Barrier.h"
 #include "frontend/win32/DialogResource.h"
 #include "frontend/win32/Text.h"
 
@@ -118,16 +119,20 @@ OPENFILENAMEW CFileDialog::Request(HWND owner) {
 UINT_PTR CALLBACK CFileDialog::Hook(HWND options, UINT message, WPARAM, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         const auto* const request = reinterpret_cast<const OPENFILENAMEW*>(lParam);
-        auto* const self = reinterpret_cast<CFileDialog*>(request->lCustData);
+        auto& self = *reinterpret_cast<CFileDialog*>(request->lCustData);
         SetWindowLongPtrW(options, DWLP_USER, request->lCustData);
-        self->m_options =
-            std::make_unique<CWin32View>(*self->m_dialog.optionsTemplate, options,
-                                         *self->m_dialog.optionsHandler, self->m_cursors);
+        Contained([&] { self.MakeOptions(options); });
         return TRUE;
     }
     auto* const self = reinterpret_cast<CFileDialog*>(GetWindowLongPtrW(options, DWLP_USER));
-    return message == WM_NOTIFY && self &&
-           self->OnNotification(options, *reinterpret_cast<const NMHDR*>(lParam));
+    return message == WM_NOTIFY && self && self->m_options && Contained(false, [&] {
+               return self->OnNotification(options, *reinterpret_cast<const NMHDR*>(lParam));
+           });
+}
+
+void CFileDialog::MakeOptions(HWND options) {
+    m_options = std::make_unique<CWin32View>(*m_dialog.optionsTemplate, options,
+                                             *m_dialog.optionsHandler, m_cursors);
 }
 
 bool CFileDialog::OnNotification(HWND options, const NMHDR& notification) {
@@ -149,7 +154,8 @@ bool CFileDialog::OnNotification(HWND options, const NMHDR& notification) {
 LRESULT CALLBACK CFileDialog::AnswerHelp(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
                                          UINT_PTR identifier, DWORD_PTR reference) {
     if (message == WM_HELP) {
-        reinterpret_cast<CFileDialog*>(reference)->m_dialog.optionsHandler->OnHelp(0);
+        auto& handler = *reinterpret_cast<CFileDialog*>(reference)->m_dialog.optionsHandler;
+        Contained([&] { handler.OnHelp(0); });
         return TRUE;
     }
     if (message == WM_NCDESTROY) {

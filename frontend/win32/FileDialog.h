@@ -23,6 +23,7 @@ private:
     static LRESULT CALLBACK AnswerHelp(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
                                        UINT_PTR identifier, DWORD_PTR reference);
     OPENFILENAMEW Request(HWND owner);
+    void MakeOptions(HWND options);
     bool OnNotification(HWND options, const NMHDR& notification);
     bool IsAccepted() const;
     panel::FileOutcome Outcome() const;

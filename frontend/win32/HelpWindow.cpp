@@ -1,6 +1,7 @@
 #include "frontend/win32/HelpWindow.h"
 
 #include "frontend/win32/ActivationContext.h"
+#include "frontend/win32/Barrier.h"
 #include "frontend/win32/HelpText.h"
 #include "frontend/win32/Module.h"
 #include "frontend/win32/SystemFile.h"
@@ -115,7 +116,8 @@ INT_PTR CALLBACK CHelpWindow::Procedure(HWND window, UINT message, WPARAM wParam
         return FALSE;
     }
     auto* const self = reinterpret_cast<CHelpWindow*>(GetWindowLongPtrW(window, DWLP_USER));
-    return self ? self->Handle(message, wParam, lParam) : FALSE;
+    return self ? Contained(INT_PTR{FALSE}, [&] { return self->Handle(message, wParam, lParam); })
+                : FALSE;
 }
 
 INT_PTR CHelpWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

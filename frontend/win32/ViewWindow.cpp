@@ -1,5 +1,7 @@
 #include "frontend/win32/ViewWindow.h"
 
+#include "frontend/win32/Barrier.h"
+
 #include <utility>
 
 namespace win32 {
@@ -75,7 +77,8 @@ LRESULT CALLBACK CViewWindow::Procedure(HWND window, UINT message, WPARAM wParam
         self->m_window = nullptr;
         return DefSubclassProc(window, message, wParam, lParam);
     }
-    const std::optional<LRESULT> answer = self->Handle(message, wParam, lParam);
+    const auto answer =
+        Contained(std::optional<LRESULT>(), [&] { return self->Handle(message, wParam, lParam); });
     return answer ? *answer : DefSubclassProc(window, message, wParam, lParam);
 }
 

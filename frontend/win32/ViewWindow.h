@@ -54,13 +54,28 @@ private:
     void ReportSize(panel::Size size);
     void EndIfDue();
 
+    /// One of its notifications, while it runs. The window may end after the last.
+    class CNotification {
+    public:
+        explicit CNotification(CViewWindow& window) : m_window(window) {
+            ++m_window.m_notifications;
+        }
+        ~CNotification() {
+            --m_window.m_notifications;
+            m_window.EndIfDue();
+        }
+        CNotification(const CNotification&) = delete;
+        CNotification& operator=(const CNotification&) = delete;
+
+    private:
+        CViewWindow& m_window;
+    };
+
     template <class... Parameters, class... Arguments>
     void Notify(void (panel::IDialogHandler::*event)(Parameters...), Arguments... arguments) {
         if (m_handler) {
-            ++m_notifications;
+            const CNotification notification(*this);
             (m_handler->*event)(arguments...);
-            --m_notifications;
-            EndIfDue();
         }
     }
 

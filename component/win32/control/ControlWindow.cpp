@@ -1,5 +1,6 @@
 #include "component/win32/control/ControlWindow.h"
 
+#include "frontend/win32/Barrier.h"
 #include "frontend/win32/Module.h"
 
 #include <utility>
@@ -108,12 +109,13 @@ private:
 
     // A copy, since the owner may end inside.
     template <class Event, class... Arguments>
-    void Call(Event event, Arguments... arguments) {
-        if (event) {
-            ++m_depth;
-            event(arguments...);
-            --m_depth;
-        }
+    void Call(const Event& event, Arguments... arguments) {
+        const win32::CCounted depth(m_depth);
+        win32::Contained([&] {
+            if (const Event own = event) {
+                own(arguments...);
+            }
+        });
     }
 
     Events m_events;

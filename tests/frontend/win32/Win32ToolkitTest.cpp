@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <new>
 
 namespace win32tests {
 
@@ -63,6 +64,13 @@ TEST_F(Win32ToolkitTest, DialogThatEndsWithItsOwnerCountsAsCancelled) {
     m_driver.ExpectDialog([&](conformance::IViewUser&) { DestroyWindow(m_host); });
     EXPECT_EQ(Toolkit().RunDialog(kTemplate, m_handler, panel::Owner::Panel),
               panel::DialogOutcome::Closed(2));
+}
+
+TEST_F(Win32ToolkitTest, DialogThatCannotBeFilledCountsAsCancelled) {
+    m_handler.onInit = [](panel::IView&) { throw std::bad_alloc(); };
+    EXPECT_EQ(Toolkit().RunDialog(kTemplate, m_handler, panel::Owner::Panel),
+              panel::DialogOutcome::Closed(2));
+    EXPECT_TRUE(IsWindowEnabled(m_host));
 }
 
 TEST_F(Win32ToolkitTest, FileDialogLeavesTheCurrentFolder) {

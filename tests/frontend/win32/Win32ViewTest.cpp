@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <optional>
 
 namespace win32tests {
@@ -75,6 +76,28 @@ TEST_F(Win32ViewTest, ViewDestroyedInsideItsCommandEndsItsWindowAfterwards) {
         EXPECT_FALSE(IsWindowVisible(window));
     };
     EXPECT_TRUE(User().Press(kButton));
+    EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(Win32ViewTest, ExceptionOutOfACommandEndsInTheView) {
+    const HWND window = ViewWindow();
+    m_handler.onCommand = [](panel::ControlId) { throw std::bad_alloc(); };
+    EXPECT_TRUE(User().Press(kButton));
+    m_handler.onCommand = {};
+    EXPECT_TRUE(User().Press(kOther));
+    EXPECT_EQ(m_handler.events, (Events{"command 301", "command 302"}));
+    m_view.reset();
+    EXPECT_FALSE(IsWindow(window)); // at once, for no command is left running
+}
+
+TEST_F(Win32ViewTest, ViewDestroyedInsideACommandThatThrowsEndsItsWindow) {
+    const HWND window = ViewWindow();
+    m_handler.onCommand = [&](panel::ControlId) {
+        m_view.reset();
+        throw std::bad_alloc();
+    };
+    EXPECT_TRUE(User().Press(kButton));
+    Pump();
     EXPECT_FALSE(IsWindow(window));
 }
 
