@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <type_traits>
 
@@ -17,8 +18,9 @@ namespace component {
 /// - `Com`, its type in the COM interface;
 /// - `Outgoing`, for a call from the contract to COM: made of the contract's argument, it gives
 ///   COM's with Get and, after success, brings back what was delivered with Deliver;
-/// - `Incoming`, the same for a call from COM to the contract, with IsValid for the null pointers
-///   that COM callers may pass.
+/// - `Incoming`, the same for a call from COM to the contract, with IsValid for what COM callers
+/// may
+///   pass wrongly: null pointers, or what fails with `kRefusal` where there is one.
 template <class Parameter>
 struct Crossing;
 
@@ -227,29 +229,32 @@ struct Crossing<std::string&> {
     };
 };
 
+/// An identifier is a text in COM, which automation can bring to other apartments.
 template <>
 struct Crossing<const contract::Guid&> {
-    using Com = REFGUID;
+    using Com = BSTR;
 
     class Outgoing {
     public:
-        Outgoing(CBridge&, const contract::Guid& identifier) : m_identifier(ToGuid(identifier)) {}
-        Com Get() const { return m_identifier; }
+        Outgoing(CBridge&, const contract::Guid& identifier) : m_text(IdentifierText(identifier)) {}
+        Com Get() const { return m_text.Get(); }
         void Deliver() {}
 
     private:
-        GUID m_identifier;
+        CBstr m_text;
     };
 
     class Incoming {
     public:
-        Incoming(CBridge&, Com identifier) : m_identifier(FromGuid(identifier)) {}
-        bool IsValid() const { return true; }
-        const contract::Guid& Get() const { return m_identifier; }
+        static constexpr contract::Status kRefusal{E_INVALIDARG};
+
+        Incoming(CBridge&, Com text) : m_identifier(ReadIdentifier(text)) {}
+        bool IsValid() const { return m_identifier.has_value(); }
+        const contract::Guid& Get() const { return *m_identifier; }
         void Deliver() {}
 
     private:
-        contract::Guid m_identifier;
+        std::optional<contract::Guid> m_identifier;
     };
 };
 

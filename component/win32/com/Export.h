@@ -78,11 +78,22 @@ protected:
     }
 
 private:
+    /// Whether an argument is valid; if not, with what the call fails.
+    template <class Incoming>
+    static bool IsTaken(const Incoming& argument, contract::Status& refusal) {
+        if constexpr (requires { Incoming::kRefusal; }) {
+            refusal = Incoming::kRefusal;
+        } else {
+            refusal = contract::kInvalidPointer;
+        }
+        return argument.IsValid();
+    }
     template <class Method, class... Crossings>
     HRESULT ServeWith(Method method, Crossings&&... crossings) {
         const HRESULT status = CallContract(__uuidof(Com), [&] {
-            return (crossings.IsValid() && ...) ? (m_object.get()->*method)(crossings.Get()...)
-                                                : contract::kInvalidPointer;
+            contract::Status refusal;
+            const bool areValid = (IsTaken(crossings, refusal) && ...);
+            return areValid ? (m_object.get()->*method)(crossings.Get()...) : refusal;
         });
         if (SUCCEEDED(status)) {
             (crossings.Deliver(), ...);

@@ -16,14 +16,17 @@ class CRawArgument {
 public:
     using Com = typename Crossing<Parameter>::Com;
 
-    Com Get() const {
-        if constexpr (std::is_reference_v<Com>) {
-            return IID_NULL;
-        } else {
-            return Com{};
-        }
-    }
+    Com Get() const { return Com{}; }
     bool IsAsFailureLeavesIt() const { return true; }
+};
+template <>
+class CRawArgument<const contract::Guid&> {
+public:
+    BSTR Get() const { return m_text.Get(); }
+    bool IsAsFailureLeavesIt() const { return true; }
+
+private:
+    const CBstr m_text{"{00000000-0000-0000-0000-000000000000}"};
 };
 
 /// What a client passes for results: a place with something in it, or null.

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,27 @@ protected:
             info->ReleaseFuncDesc(function);
         }
         return events;
+    }
+
+    /// What stands there in the library; of a dual interface the half that is called directly.
+    ComPtr<ITypeInfo> InterfaceAt(UINT index) const {
+        ComPtr<ITypeInfo> info;
+        ComPtr<ITypeInfo> half;
+        HREFTYPE reference = 0;
+        EXPECT_EQ(m_library->GetTypeInfo(index, info.GetAddressOf()), S_OK);
+        const bool isDual =
+            SUCCEEDED(info->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference)) &&
+            SUCCEEDED(info->GetRefTypeInfo(reference, half.GetAddressOf()));
+        return isDual ? half : info;
+    }
+    /// Nothing for what is no interface, or one for dispatch only.
+    static std::optional<WORD> FlagsOfInterface(ITypeInfo* info) {
+        TYPEATTR* attributes = nullptr;
+        EXPECT_EQ(info->GetTypeAttr(&attributes), S_OK);
+        const bool isInterface = attributes->typekind == TKIND_INTERFACE;
+        const WORD flags = attributes->wTypeFlags;
+        info->ReleaseTypeAttr(attributes);
+        return isInterface ? std::optional(flags) : std::nullopt;
     }
 
     ComPtr<ITypeLib> m_library;
@@ -107,6 +129,18 @@ TEST_F(TypeLibraryTest, EveryInterfaceOfTheBoundaryIsDescribed) {
                                   DIID__IExtConnectionEvents}) {
         EXPECT_TRUE(Find(identifier));
     }
+}
+
+TEST_F(TypeLibraryTest, EveryInterfaceIsFitForAutomation) {
+    int interfaceCount = 0;
+    for (UINT index = 0; index < m_library->GetTypeInfoCount(); ++index) {
+        const ComPtr<ITypeInfo> info = InterfaceAt(index);
+        if (const auto flags = FlagsOfInterface(info.Get())) {
+            EXPECT_TRUE(*flags & TYPEFLAG_FOLEAUTOMATION) << NameOf(info.Get(), MEMBERID_NIL);
+            ++interfaceCount;
+        }
+    }
+    EXPECT_EQ(interfaceCount, 26);
 }
 
 TEST_F(TypeLibraryTest, IdentifierOfNothingIsNotFound) {

@@ -1,0 +1,115 @@
+// Objects used from another apartment than their own, to which the system brings calls over as the
+// registered type library tells it.
+
+#include "component/win32/com/Identifiers.h"
+#include "component/win32/com/TypeLibrary.h"
+#include "frontend/win32/Module.h"
+#include "tests/component/win32/com/BridgeFixture.h"
+#include "tests/component/win32/com/PanelTargets.h"
+#include "tests/interception/HostTargets.h"
+
+#include <functional>
+
+namespace component {
+
+namespace {
+
+/// The type library is registered while a test runs.
+class ApartmentTest : public BridgeFixture {
+protected:
+    ApartmentTest() {
+        std::wstring file = win32::OwnModuleFile();
+        EXPECT_EQ(LoadTypeLibrary(m_library.GetAddressOf()), S_OK);
+        EXPECT_EQ(RegisterTypeLib(m_library.Get(), file.data(), nullptr), S_OK);
+    }
+    ~ApartmentTest() override {
+        TLIBATTR* attributes = nullptr;
+        EXPECT_EQ(m_library->GetLibAttr(&attributes), S_OK);
+        EXPECT_EQ(UnRegisterTypeLib(attributes->guid, attributes->wMajorVerNum,
+                                    attributes->wMinorVerNum, attributes->lcid,
+                                    attributes->syskind),
+                  S_OK);
+        m_library->ReleaseTLibAttr(attributes);
+    }
+
+    /// An object on its way to another apartment.
+    template <class Interface>
+    static IStream* Send(const ComPtr<Interface>& object) {
+        IStream* stream = nullptr;
+        EXPECT_EQ(CoMarshalInterThreadInterfaceInStream(__uuidof(Interface), object.Get(), &stream),
+                  S_OK);
+        return stream;
+    }
+    template <class Interface>
+    static ComPtr<Interface> Receive(IStream* stream) {
+        ComPtr<Interface> object;
+        EXPECT_EQ(CoGetInterfaceAndReleaseStream(stream, IID_PPV_ARGS(object.GetAddressOf())),
+                  S_OK);
+        return object;
+    }
+    /// Runs on a thread in an apartment of its own, while this one answers calls.
+    static void RunElsewhere(const std::function<void()>& action) {
+        const HANDLE end = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+        std::thread thread([&] {
+            EXPECT_EQ(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK);
+            action();
+            CoUninitialize();
+            SetEvent(end);
+        });
+        MSG message;
+        while (MsgWaitForMultipleObjects(1, &end, FALSE, INFINITE, QS_ALLINPUT) ==
+               WAIT_OBJECT_0 + 1) {
+            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+                DispatchMessageW(&message);
+            }
+        }
+        thread.join();
+        CloseHandle(end);
+    }
+
+    ComPtr<ITypeLib> m_library;
+};
+
+TEST_F(ApartmentTest, SubsystemIsAskedForByItsIdentifier) {
+    const auto target = interception::MakeTarget<contract::ISubsystemAccess>();
+    target->exchange.status = contract::Status(-77);
+    IStream* const stream = Send(Export<contract::ISubsystemAccess>(target));
+    HRESULT result = S_OK;
+    RunElsewhere([&] {
+        const auto access = Receive<ISubsystemAccess>(stream);
+        ComPtr<IUnknown> subsystem;
+        const CBstr identifier(IdentifierText(contract::kProgrammingDeviceSubsystem));
+        result = access->GetSubsystem(identifier.Get(), subsystem.GetAddressOf());
+        EXPECT_FALSE(subsystem);
+    });
+    EXPECT_EQ(result, -77);
+    EXPECT_EQ(target->exchange.received.size(), 1u);
+}
+
+TEST_F(ApartmentTest, SubsystemAccessIsHandedToThePanel) {
+    const auto panel = interception::MakeTarget<contract::ISetSubsystemAccess>();
+    const auto access = interception::MakeTarget<contract::ISubsystemAccess>();
+    IStream* const panelStream = Send(Export<contract::ISetSubsystemAccess>(panel));
+    IStream* const accessStream = Send(Export<contract::ISubsystemAccess>(access));
+    HRESULT result = E_FAIL;
+    RunElsewhere([&] {
+        const auto foreign = Receive<ISetSubsystemAccess>(panelStream);
+        const auto handed = Receive<ISubsystemAccess>(accessStream);
+        result = foreign->SetSubsystemAccess(handed.Get());
+    });
+    EXPECT_EQ(result, S_OK);
+    EXPECT_EQ(panel->exchange.received.size(), 1u);
+}
+
+TEST_F(ApartmentTest, ViewIsClosedByThePanel) {
+    const auto target = interception::MakeTarget<contract::IHostViewControl>();
+    IStream* const stream = Send(Export<contract::IHostViewControl>(target));
+    HRESULT result = E_FAIL;
+    RunElsewhere([&] { result = Receive<IHostViewControl>(stream)->ClosePanel(); });
+    EXPECT_EQ(result, S_OK);
+    EXPECT_EQ(target->exchange.received.size(), 1u);
+}
+
+}
+
+}
