@@ -5,6 +5,7 @@
 #include "component/win32/com/ServedCall.h"
 
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 namespace component {
@@ -71,13 +72,30 @@ protected:
     /// Serves a call by an operation whose parameters in the contract are `Parameters`.
     template <class... Parameters, class Method, class... Arguments>
     HRESULT Serve(Method method, Arguments... arguments) {
+        // Here and not by the crossings alone: no call on another thread gets as far as those.
+        (ClearResult(arguments), ...);
         return ServeCall(*m_bridge, *this, __uuidof(Com), [&] {
             return ServeWith(method,
                              typename Crossing<Parameters>::Incoming(*m_bridge, arguments)...);
         });
     }
 
+    /// Serves a call that the type library answers.
+    template <class Operation>
+    HRESULT ServeByTypeLibrary(Operation operation) {
+        return ServeCall(*m_bridge, *this, __uuidof(Com), operation);
+    }
+
 private:
+    /// A text or an object is null until it is delivered.
+    template <class Argument>
+    static void ClearResult(Argument argument) {
+        if constexpr (std::is_pointer_v<std::remove_pointer_t<Argument>>) {
+            if (argument) {
+                *argument = nullptr;
+            }
+        }
+    }
     /// Whether an argument is valid; if not, with what the call fails.
     template <class Incoming>
     static bool IsTaken(const Incoming& argument, contract::Status& refusal) {

@@ -136,6 +136,7 @@ TEST_P(OperationSweepTest, CallFromAnotherThreadIsRefused) {
     ClientOutcome outcome;
     std::thread([&] { outcome = CallAsClient(kOtherSuccess); }).join();
     EXPECT_EQ(outcome.call.result, RPC_E_WRONG_THREAD);
+    EXPECT_TRUE(outcome.call.isAsFailureLeavesIt);
     EXPECT_EQ(outcome.received, 0u);
 }
 
