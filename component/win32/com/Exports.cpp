@@ -123,18 +123,22 @@ public:
         if (FAILED(result) || !information) {                                                      \
             return result;                                                                         \
         }                                                                                          \
-        const HRESULT found = FindTypeInfo(__uuidof(Com), info);                                   \
+        const HRESULT found =                                                                      \
+            ServeByTypeLibrary([&] { return FindTypeInfo(__uuidof(Com), info); });                 \
         return FAILED(found) ? found : result;                                                     \
     }                                                                                              \
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,             \
                                             DISPID* numbers) override {                            \
-        return FindNames(__uuidof(Com), names, count, numbers);                                    \
+        return ServeByTypeLibrary(                                                                 \
+            [&] { return FindNames(__uuidof(Com), names, count, numbers); });                      \
     }                                                                                              \
     HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID, LCID, WORD flags,                      \
                                      DISPPARAMS* parameters, VARIANT* result,                      \
                                      EXCEPINFO* exception, UINT* argument) override {              \
-        return InvokeByNumber(static_cast<Com*>(this), __uuidof(Com), number, flags, parameters,   \
-                              result, exception, argument);                                        \
+        return ServeByTypeLibrary([&] {                                                            \
+            return InvokeByNumber(static_cast<Com*>(this), __uuidof(Com), number, flags,           \
+                                  parameters, result, exception, argument);                        \
+        });                                                                                        \
     }
 #define END                                                                                        \
     }                                                                                              \

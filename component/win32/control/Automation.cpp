@@ -18,7 +18,9 @@ HRESULT CAutomation::GetTypeInfo(UINT index, LCID, ITypeInfo** info) {
         return E_POINTER;
     }
     *info = nullptr;
-    return index == 0 ? FindTypeInfo(__uuidof(IKRX8Maintenance), info) : DISP_E_BADINDEX;
+    return Enter([&] {
+        return index == 0 ? FindTypeInfo(__uuidof(IKRX8Maintenance), info) : DISP_E_BADINDEX;
+    });
 }
 
 HRESULT CAutomation::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* numbers) {
@@ -52,7 +54,7 @@ HRESULT CClassInfo::GetClassInfo(ITypeInfo** info) {
         return E_POINTER;
     }
     *info = nullptr;
-    return FindTypeInfo(ToGuid(panel::kMaintenanceClass), info);
+    return Enter([&] { return FindTypeInfo(ToGuid(panel::kMaintenanceClass), info); });
 }
 
 HRESULT CClassInfo::GetGUID(DWORD, GUID* identifier) {

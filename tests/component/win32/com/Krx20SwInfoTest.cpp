@@ -156,6 +156,23 @@ TEST_F(Krx20SwInfoTest, ObjectAnswersForDispatch) {
     EXPECT_TRUE(AreOne(Ask<IDispatch>(m_exported.Get()).Get(), m_exported.Get()));
 }
 
+TEST_F(Krx20SwInfoTest, DispatchOnAnotherThreadIsRefused) {
+    OLECHAR text[] = L"GetBootLoaderVersion";
+    LPOLESTR name = text;
+    DISPID number = -5;
+    ComPtr<ITypeInfo> info;
+    CBstr version;
+    EXPECT_EQ(OnAnotherThread([&] { return GetTypeInfo(info); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(OnAnotherThread([&] {
+                  return m_exported->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT,
+                                                   &number);
+              }),
+              RPC_E_WRONG_THREAD);
+    EXPECT_EQ(OnAnotherThread([&] { return Invoke(1, version); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(number, -5);
+    EXPECT_EQ(version.Get(), nullptr);
+}
+
 }
 
 }
