@@ -117,8 +117,7 @@ TEST_F(BadCallTest, TypeInformationOnAnotherThreadIsRefused) {
     const auto automation = container.As<IDispatch>();
     const auto provider = container.As<IProvideClassInfo2>();
     ITypeInfo* info = reinterpret_cast<ITypeInfo*>(8);
-    EXPECT_EQ(Elsewhere([&] { return automation->GetTypeInfo(0, 0, &info); }),
-              RPC_E_WRONG_THREAD);
+    EXPECT_EQ(Elsewhere([&] { return automation->GetTypeInfo(0, 0, &info); }), RPC_E_WRONG_THREAD);
     EXPECT_EQ(info, nullptr);
     EXPECT_EQ(Elsewhere([&] { return provider->GetClassInfo(&info); }), RPC_E_WRONG_THREAD);
     EXPECT_EQ(info, nullptr);

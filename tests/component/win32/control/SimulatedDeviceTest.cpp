@@ -228,7 +228,7 @@ TEST_F(UpdateOfferTest, AcceptedPackageIsInstalledAndNotOfferedAgain) {
     StartWithSample("krx-8");
     EXPECT_EQ(offered, "005.002.000 for 004.007.002");
     ASSERT_EQ(prompts.Boxes().size(), 1u);
-    EXPECT_EQ(prompts.Boxes()[0].text, "Prommer SW updated succesfully.");
+    EXPECT_EQ(prompts.Boxes()[0].text, "Prommer SW updated succesfully.\nHRESULT 0x00000000 (0)");
     EXPECT_EQ(Field(panel::kApplicationSwField), "4.20.0");
     EXPECT_THAT(Log(), HasSubstr("Programming Device is: 005.002.000\r\n"));
 }
