@@ -4,6 +4,7 @@
 #include "component/win32/com/TypeLibrary.h"
 #include "frontend/win32/Text.h"
 #include "panel/registration/ComponentIdentity.h"
+#include "panel/registration/GuidText.h"
 
 #include <comcat.h>
 
@@ -18,8 +19,10 @@ namespace {
 
 #ifdef _WIN64
 constexpr SYSKIND kSystem = SYS_WIN64;
+constexpr wchar_t kSystemKey[] = L"win64";
 #else
 constexpr SYSKIND kSystem = SYS_WIN32;
+constexpr wchar_t kSystemKey[] = L"win32";
 #endif
 
 Status FromErrorNumber(LSTATUS error) { return Status(HRESULT_FROM_WIN32(error)); }
@@ -61,6 +64,20 @@ LSTATUS RemoveKey(const std::wstring& path) {
     return error == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : error;
 }
 
+// Those of the other kind of programs may stand beside it, under another key.
+bool IsTypeLibraryRegistered() {
+    const std::wstring path = L"TypeLib\\" + win32::ToWide(panel::FormatGuid(panel::kTypeLibrary)) +
+                              L"\\" + std::to_wstring(panel::kTypeLibraryMajorVersion) + L"." +
+                              std::to_wstring(panel::kTypeLibraryMinorVersion) + L"\\0\\" +
+                              kSystemKey;
+    HKEY key = nullptr;
+    const LSTATUS error = RegOpenKeyExW(HKEY_CLASSES_ROOT, path.c_str(), 0, KEY_READ, &key);
+    if (error == ERROR_SUCCESS) {
+        RegCloseKey(key);
+    }
+    return error != ERROR_FILE_NOT_FOUND;
+}
+
 LSTATUS Carry(const RegistryStep& step) {
     const std::wstring key = win32::ToWide(step.key);
     switch (step.kind) {
@@ -92,12 +109,14 @@ Status CSystemRegistrar::RegisterTypeLibrary() {
     return Status(FAILED(result) ? result : RegisterTypeLib(library.Get(), module.data(), nullptr));
 }
 
-// That it was not there is no failure.
+// That it was not there is no failure. It is looked for, since systems disagree on what they answer
+// then, and some answer as they do when the registry refuses.
 Status CSystemRegistrar::UnregisterTypeLibrary() {
-    const HRESULT result =
-        UnRegisterTypeLib(ToGuid(panel::kTypeLibrary), panel::kTypeLibraryMajorVersion,
-                          panel::kTypeLibraryMinorVersion, LOCALE_NEUTRAL, kSystem);
-    return Status(result == TYPE_E_REGISTRYACCESS ? S_OK : result);
+    if (!IsTypeLibraryRegistered()) {
+        return contract::kSuccess;
+    }
+    return Status(UnRegisterTypeLib(ToGuid(panel::kTypeLibrary), panel::kTypeLibraryMajorVersion,
+                                    panel::kTypeLibraryMinorVersion, LOCALE_NEUTRAL, kSystem));
 }
 
 Status CSystemRegistrar::RegisterCategory(const contract::Guid& identifier, std::uint32_t locale,
