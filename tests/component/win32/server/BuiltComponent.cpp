@@ -6,15 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 namespace component {
 
 namespace {
-
-std::filesystem::path OwnFolder() {
-    wchar_t path[1024];
-    const DWORD length = GetModuleFileNameW(nullptr, path, 1024);
-    return std::filesystem::path(std::wstring(path, length)).parent_path();
-}
 
 template <class Function>
 Function Find(HMODULE module, const char* name) {
@@ -23,6 +20,12 @@ Function Find(HMODULE module, const char* name) {
     return reinterpret_cast<Function>(reinterpret_cast<void*>(function));
 }
 
+}
+
+std::filesystem::path OwnFolder() {
+    wchar_t path[1024];
+    const DWORD length = GetModuleFileNameW(nullptr, path, 1024);
+    return std::filesystem::path(std::wstring(path, length)).parent_path();
 }
 
 // Relative to this program, as the system that builds it writes full paths in another way.
@@ -52,12 +55,22 @@ void ForgetRegistration() {
     }
 }
 
-void LetLibrariesGo() {
-    win32tests::Pump();
-    CoFreeUnusedLibraries();
+// COM marks what is unused at one call and unloads at the next, and an apartment that it made of
+// its own accord ends some time after its last object.
+bool AwaitUnloading() {
+    using Clock = std::chrono::steady_clock;
+    constexpr auto kLongest = std::chrono::seconds(5);
+    const auto start = Clock::now();
+    while (GetModuleHandleW(kComponentName)) {
+        if (Clock::now() - start > kLongest) {
+            return false;
+        }
+        win32tests::Pump();
+        CoFreeUnusedLibraries();
+        std::this_thread::yield();
+    }
+    return true;
 }
-
-bool IsComponentLoaded() { return GetModuleHandleW(kComponentName) != nullptr; }
 
 CLoadedComponent::CLoadedComponent(const std::filesystem::path& file)
     : m_module(LoadLibraryW(file.c_str())) {

@@ -10,7 +10,9 @@ namespace component {
 
 inline constexpr wchar_t kComponentName[] = L"cmn_krx8maintenanceui.dll";
 
-/// Its full path.
+/// The folder of this program.
+std::filesystem::path OwnFolder();
+/// The component's full path.
 std::filesystem::path ComponentFile();
 
 /// Registers it, or another copy of it, as an administrator does; the status of regsvr32, 0 for a
@@ -22,10 +24,9 @@ RunRegsvr32ToUnregister(const std::filesystem::path& file = ComponentFile());
 /// Takes everything that a registration writes out of the registry, categories included.
 void ForgetRegistration();
 
-/// Handles all messages that have come, and has COM unload what it no longer needs.
-void LetLibrariesGo();
-/// Whether the component is in this process.
-bool IsComponentLoaded();
+/// Handles messages and has COM unload what it no longer needs until the component has left this
+/// process; false when it does not within five seconds.
+bool AwaitUnloading();
 
 /// The component, loaded by hand.
 class CLoadedComponent {

@@ -136,7 +136,7 @@ TEST_F(RegistrationTest, PathWithBlanksAndForeignLettersIsWrittenAndFound) {
                                    reinterpret_cast<void**>(panel.GetAddressOf())),
                   S_OK);
     }
-    LetLibrariesGo();
+    EXPECT_TRUE(AwaitUnloading());
     EXPECT_EQ(RunRegsvr32ToUnregister(file), 0u);
     EXPECT_THAT(DumpClass(), IsEmpty());
 }
