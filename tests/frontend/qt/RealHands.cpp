@@ -54,9 +54,13 @@ void CRealHands::RequestClose(const QWidget& window) const {
     event.type = AtomOf(*server, "WM_PROTOCOLS");
     event.data.data32[0] = AtomOf(*server, "WM_DELETE_WINDOW");
     event.data.data32[1] = XCB_CURRENT_TIME;
-    xcb_send_event(server.get(), 0, event.window, XCB_EVENT_MASK_NO_EVENT,
-                   reinterpret_cast<const char*>(&event));
-    EXPECT_GT(xcb_flush(server.get()), 0);
+    const auto cookie =
+        xcb_send_event_checked(server.get(), 0, event.window, XCB_EVENT_MASK_NO_EVENT,
+                               reinterpret_cast<const char*>(&event));
+    // Waited for: the server does not read what a client has sent that is gone by then.
+    const std::unique_ptr<xcb_generic_error_t, decltype(&std::free)> error(
+        xcb_request_check(server.get(), cookie), &std::free);
+    EXPECT_FALSE(error);
 }
 
 void CRealHands::Activate(QWidget& window) const {
