@@ -19,5 +19,5 @@ add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffunction-sections> $<$<COMPILE_L
 add_link_options(-Wl,--gc-sections)
 
 if(CMAKE_CROSSCOMPILING)
-  set(CMAKE_CROSSCOMPILING_EMULATOR ${PROJECT_SOURCE_DIR}/tools/wine.sh ${PROJECT_BINARY_DIR}/wine)
+  set(KRX8_WINE ${PROJECT_SOURCE_DIR}/tools/wine.sh)
 endif()

@@ -47,14 +47,14 @@ void PanelFixture::TearDown() {
 }
 
 void PanelFixture::StartView() {
-    ASSERT_EQ(panel->SetContextAndRegister(interception.Wrap(host.Context())), contract::kSuccess);
+    ASSERT_EQ(panel->SetContextAndRegister(HandOver(host.Context())), contract::kSuccess);
     ASSERT_EQ(panel->CreateView(nullptr), contract::kSuccess);
 }
 
 void PanelFixture::StartPanel() {
     StartView();
-    ASSERT_EQ(panel->SetSubsystemAccess(interception.Wrap(Access())), contract::kSuccess);
-    ASSERT_EQ(panel->SetConnection(interception.Wrap(host.Connection())), contract::kSuccess);
+    ASSERT_EQ(panel->SetSubsystemAccess(HandOver(Access())), contract::kSuccess);
+    ASSERT_EQ(panel->SetConnection(HandOver(host.Connection())), contract::kSuccess);
 }
 
 void PanelFixture::ConnectDevice(const simulator::DeviceDescription& description) {
@@ -87,7 +87,13 @@ void PanelFixture::EndPanel() {
     EXPECT_EQ(host.DeviceSubscriberCount(), 0u);
     EXPECT_EQ(host.ConnectionSubscriberCount(), 0u);
     EXPECT_EQ(host.ContextMemberCount(), 0u);
+    EXPECT_EQ(border.LiveObjects(), 0u);
     EXPECT_EQ(interception.LiveWrappers(), 0u);
+}
+
+std::size_t PanelFixture::LeftBehind() const {
+    return host.DeviceSubscriberCount() + host.ConnectionSubscriberCount() +
+           host.ContextMemberCount() + border.LiveObjects() + interception.LiveWrappers();
 }
 
 headless::CHeadlessView& PanelFixture::View() { return *desktop->windows.PanelView(); }

@@ -9,6 +9,7 @@
 #include "panel/control/PanelTemplate.h"
 #include "simulator/Device.h"
 #include "simulator/Host.h"
+#include "tests/support/Border.h"
 #include "tests/support/HostDoubles.h"
 #include "tests/support/SampleDevices.h"
 
@@ -42,6 +43,12 @@ protected:
     /// The door to the host's subsystems that the panel is handed.
     virtual std::shared_ptr<contract::ISubsystemAccess> Access() { return host.SubsystemAccess(); }
 
+    /// `object` of the host as the panel gets it: each call recorded, and across what lies between.
+    template <class Interface>
+    std::shared_ptr<Interface> HandOver(const std::shared_ptr<Interface>& object) {
+        return border.Cross(interception.Wrap(object));
+    }
+
     /// Inserts a device and raises connection state 7.
     void ConnectDevice(const simulator::DeviceDescription& description);
     void ConnectDevice(std::int32_t type) { ConnectDevice(HealthyDevice(type)); }
@@ -54,6 +61,8 @@ protected:
     void ForgetWhatWasSeen();
     /// Ends the panel and checks that it let go of everything.
     void EndPanel();
+    /// What of the host's is still held or subscribed to: none once the panel has ended.
+    std::size_t LeftBehind() const;
 
     // The user's hands and eyes
 
@@ -81,6 +90,7 @@ protected:
     std::shared_ptr<interception::CCallRecorder> recorder;
     std::shared_ptr<interception::CFaultInjector> faults;
     interception::CInterception interception;
+    CBorder border;
     std::shared_ptr<panel::CKRX8Maintenance> panel;
 };
 

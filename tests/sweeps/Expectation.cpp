@@ -1,6 +1,7 @@
 #include "tests/sweeps/Expectation.h"
 
 #include "interception/Operations.h"
+#include "tests/support/Border.h"
 #include "tests/sweeps/ExpectationEntry.h"
 #include "tests/sweeps/ExpectedRefresh.h"
 #include "tests/sweeps/Scenario.h"
@@ -237,7 +238,8 @@ bool CExpectation::Spoils(std::size_t call, std::string_view operation) {
         const bool isDescribed = spoilt->how == Spoiling::Failure;
         m_failure = {kFaultStatus, isDescribed ? kFaultDescription : ""};
     } else if (isPicked && DeliversObject(operation)) {
-        const bool isQuery = operation.find(".Query") != std::string_view::npos;
+        const bool isQuery = operation.find(".Query") != std::string_view::npos ||
+                             support::CBorder::RefusesNull(operation);
         m_failure = {Status::FromBits(isQuery ? 0x80004002 : 0x80004003), ""};
     } else if (m_isLost && IsAnsweredByDevice(operation)) {
         m_failure = {kLostStatus, kLostDescription};

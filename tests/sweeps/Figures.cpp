@@ -17,7 +17,8 @@ public:
         std::cout << (IsFullTier() ? "swept in full: " : "swept: ") << figures.scenarios
                   << " scenarios, " << figures.runs << " runs, " << figures.callsSpoilt
                   << " calls spoilt, " << figures.events << " events inside of calls and prompts, "
-                  << figures.promptsAnswered << " prompts answered\n";
+                  << figures.promptsAnswered << " prompts answered, " << figures.leaks
+                  << " leaks\n";
     }
 };
 

@@ -11,6 +11,7 @@ struct Figures {
     std::size_t callsSpoilt = 0;
     std::size_t events = 0;
     std::size_t promptsAnswered = 0;
+    std::size_t leaks = 0; ///< references and subscriptions that a panel left behind
 };
 
 Figures& TheFigures();

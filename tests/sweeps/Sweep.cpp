@@ -79,6 +79,7 @@ void CSweep::Run(const Plan& plan) {
     ExpectLeftAsFound(Compare(pair, "acting"), plan);
     PlayAgain(pair, plan);
     pair.actual.End();
+    TheFigures().leaks += pair.actual.LeftBehind();
 }
 
 void CSweep::Play(Pair& pair, const Plan& plan, void (*act)(IStage&)) {

@@ -167,19 +167,19 @@ Kept CSweepPanel::LookAtState() const {
 
 void CSweepPanel::SetContextAndRegister() {
     if (panel) {
-        Note(panel->SetContextAndRegister(interception.Wrap(host.Context())));
+        Note(panel->SetContextAndRegister(HandOver(host.Context())));
     }
 }
 
 void CSweepPanel::SetOtherContext() {
     if (panel) {
-        Note(panel->SetContext(interception.Wrap(m_otherContext)));
+        Note(panel->SetContext(HandOver(m_otherContext)));
     }
 }
 
 void CSweepPanel::SetOtherContextAndRegister() {
     if (panel) {
-        Note(panel->SetContextAndRegister(interception.Wrap(m_otherContext)));
+        Note(panel->SetContextAndRegister(HandOver(m_otherContext)));
     }
 }
 
@@ -191,25 +191,25 @@ void CSweepPanel::CreateView() {
 
 void CSweepPanel::SetSubsystemAccess() {
     if (panel) {
-        Note(panel->SetSubsystemAccess(interception.Wrap(m_access)));
+        Note(panel->SetSubsystemAccess(HandOver(m_access)));
     }
 }
 
 void CSweepPanel::SetOtherSubsystemAccess() {
     if (panel) {
-        Note(panel->SetSubsystemAccess(interception.Wrap(m_otherAccess)));
+        Note(panel->SetSubsystemAccess(HandOver(m_otherAccess)));
     }
 }
 
 void CSweepPanel::SetConnection() {
     if (panel) {
-        Note(panel->SetConnection(interception.Wrap(host.Connection())));
+        Note(panel->SetConnection(HandOver(host.Connection())));
     }
 }
 
 void CSweepPanel::SetOtherConnection() {
     if (panel) {
-        Note(panel->SetConnection(interception.Wrap(m_otherConnection)));
+        Note(panel->SetConnection(HandOver(m_otherConnection)));
     }
 }
 

@@ -31,6 +31,7 @@ public:
     Observation Take();
     /// Ends the panel and checks that nothing is left of it.
     void End() { TearDown(); }
+    using PanelFixture::LeftBehind;
 
     // IStage
     void SetContextAndRegister() override;

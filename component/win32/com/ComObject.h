@@ -42,7 +42,7 @@ public:                                                                         
     ULONG STDMETHODCALLTYPE Release() override { return m_references.Take(this); }                 \
                                                                                                    \
 private:                                                                                           \
-    CReferenceCount<Class> m_references;
+    ::component::CReferenceCount<Class> m_references;
 
 /// Takes over the reference that an object is born with. Not by ComPtr's Attach: the one that comes
 /// with mingw-w64 adds a reference.
