@@ -47,22 +47,34 @@ make_prefix() {
     wineboot -i && configure_prefix && wineserver -w && touch "$WINEPREFIX/.ready"
 }
 
+# A process's number and when it started: numbers are given out again.
+identify() { # PID
+    local text fields
+    text=$(cat "/proc/$1/stat" 2>/dev/null) || return
+    read -ra fields <<<"${text##*) }"
+    echo "$1 ${fields[19]}"
+}
+
+is_keeper_alive() {
+    local pid identity
+    read -r pid identity 2>/dev/null <"$WINEPREFIX/keeper" &&
+        [[ $(identify "$pid") == "$pid $identity" ]]
+}
+
 # Wine's services start with the first program, hold on to its output and end with the last one.
 # A program that waits in the background keeps them away from the output of those that matter.
 start_keeper() {
-    local file=$WINEPREFIX/keeper
-    [[ -e $file ]] && kill -0 "$(<"$file")" 2>/dev/null && return
+    is_keeper_alive && return
     setsid bash -c 'sleep 900 | wine cmd /q' &
-    echo $! >"$file"
+    identify $! >"$WINEPREFIX/keeper"
     # The services are up when another program has run.
     wine cmd /c exit
 }
 
 stop() {
     [[ -d $WINEPREFIX ]] || return 0
-    local file=$WINEPREFIX/keeper
-    [[ -e $file ]] && kill -- "-$(<"$file")" 2>/dev/null
-    rm -f "$file"
+    is_keeper_alive && kill -- "-$(cut -d' ' -f1 "$WINEPREFIX/keeper")" 2>/dev/null
+    rm -f "$WINEPREFIX/keeper"
     wineserver -k
     return 0
 }
