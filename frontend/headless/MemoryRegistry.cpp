@@ -9,9 +9,13 @@ namespace {
 class CMemoryRegistryKey final : public panel::IRegistryKey {
 public:
     CMemoryRegistryKey(CMemoryRegistry& registry, std::string path)
-        : m_registry(registry), m_path(std::move(path)) {}
+        : m_registry(registry), m_path(std::move(path)) {
+        ++m_registry.openKeys;
+    }
+    ~CMemoryRegistryKey() override { --m_registry.openKeys; }
 
     int ReadValue(const std::string& name, std::size_t capacity, std::string& bytes) override {
+        m_registry.namesRead.insert(name);
         if (m_registry.readError != 0) {
             return m_registry.readError;
         }

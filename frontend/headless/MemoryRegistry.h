@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 namespace headless {
@@ -22,6 +23,10 @@ public:
     void PutText(const std::string& path, const std::string& name, const std::string& text);
 
     Keys keys;
+    /// How many of them are open.
+    int openKeys = 0;
+    /// The values that were asked for, there or not.
+    std::set<std::string> namesRead;
     /// What the operations answer while not 0.
     int openError = 0;
     int createError = 0;

@@ -5,6 +5,7 @@ namespace {
 using namespace panel;
 using namespace support;
 using contract::Status;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -130,6 +131,22 @@ TEST_F(IniUpdateTest, DeviceIsLeftAloneByPollingEventsAndUserMeanwhile) {
     Update();
     EXPECT_EQ(TakeMessages().size(), 1u);
     EXPECT_EQ(Listings(), 2u);
+}
+
+TEST_F(IniUpdateTest, WithoutControlTheUpdateIsReportedAndEverythingRestored) {
+    EndPanel();
+    panel = CKRX8Maintenance::Create(std::make_unique<headless::CHeadlessToolkit>(desktop));
+    StartView();
+    desktop->prompts.ChooseFile("a.ini");
+    panel->OnCommand(kUpdateButton);
+    // The others are of the polling, which cannot be suspended without a host's subsystems either.
+    EXPECT_THAT(TakeMessages(),
+                Contains(ErrorReport("Programming Device update via INI-file failed", kCaption,
+                                     Status::FromBits(0x80004003)))
+                    .Times(1));
+    EXPECT_TRUE(State().refreshAllowed);
+    EXPECT_TRUE(IsEnabled(kUpdateButton));
+    EXPECT_EQ(desktop->cursorDepth, 0);
 }
 
 TEST_F(IniUpdateTest, BoxIsShownBeforeRefreshIsAllowedAgain) {

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -39,6 +40,19 @@ protected:
         } else {
             EXPECT_THAT(toolkit.Desktop()->traceLines, IsEmpty());
         }
+    }
+    /// Runs it with a key that cannot be made, and with one that cannot be written to.
+    void ExpectFailuresTraced(const std::function<void()>& write) {
+        Registry().createError = 5;
+        write();
+        ExpectTraced("CRegUpdate::SetRegValue: Reg. Key opening or creating failed, error 5");
+        toolkit.Desktop()->traceLines.clear();
+        Registry().createError = 0;
+        Registry().writeError = 112;
+        write();
+        ExpectTraced("CRegUpdate::SetRegValue: Reg. value setting failed, error 112");
+        toolkit.Desktop()->traceLines.clear();
+        Registry().writeError = 0;
     }
     std::optional<std::string> BrowseInPackageFolder() {
         return settings.BrowseForOpenFile(kFilter, "ini", true);
@@ -124,15 +138,32 @@ TEST_F(RegUpdateTest, EmptyNameIsTheDefaultValueForATextOnly) {
 }
 
 TEST_F(RegUpdateTest, FailuresOfWritingAreTracedOnly) {
-    Registry().createError = 5;
-    settings.SetRegValue("FlashDir", std::string("x"));
-    ExpectTraced("CRegUpdate::SetRegValue: Reg. Key opening or creating failed, error 5");
-    toolkit.Desktop()->traceLines.clear();
-    Registry().createError = 0;
-    Registry().writeError = 112;
-    settings.SetRegValue("FlashDir", 1u);
-    ExpectTraced("CRegUpdate::SetRegValue: Reg. value setting failed, error 112");
+    ExpectFailuresTraced([this] { settings.SetRegValue("FlashDir", std::string("x")); });
+    ExpectFailuresTraced([this] { settings.SetRegValue("FlashDir", 1u); });
     EXPECT_EQ(Stored("FlashDir"), std::nullopt);
+}
+
+TEST_F(RegUpdateTest, NumberWithoutNameDoesNotMakeTheKey) {
+    settings.SetRegValue("", 7u);
+    EXPECT_THAT(Registry().keys, IsEmpty());
+}
+
+TEST_F(RegUpdateTest, EveryOperationClosesItsKey) {
+    PutText("FlashDir", "C:\\Packages");
+    std::unique_ptr<IRegistryKey> key;
+    EXPECT_EQ(Registry().OpenKey(kKey, key), 0);
+    EXPECT_EQ(Registry().openKeys, 1);
+    key.reset();
+    for (const char* name : {"FlashDir", "Missing"}) {
+        settings.GetRegSzValue(name);
+        EXPECT_EQ(Registry().openKeys, 0);
+        settings.GetRegDwValue(name);
+        EXPECT_EQ(Registry().openKeys, 0);
+    }
+    settings.SetRegValue("FlashVersion", std::string("1"));
+    EXPECT_EQ(Registry().openKeys, 0);
+    settings.SetRegValue("FlashUpdated", 1u);
+    EXPECT_EQ(Registry().openKeys, 0);
 }
 
 // Browsing
@@ -169,6 +200,13 @@ TEST_F(RegUpdateTest, MissingPackageFolderStartsInItsSubFolderAlone) {
     Prompts().CancelFileDialog();
     BrowseInPackageFolder();
     EXPECT_EQ(Prompts().FileDialogs().front().dialog.startFolder, "\\Flash");
+}
+
+TEST_F(RegUpdateTest, PackageFolderIsJoinedAsItStands) {
+    PutText("FlashDir", "C:\\Packages\\");
+    Prompts().CancelFileDialog();
+    BrowseInPackageFolder();
+    EXPECT_EQ(Prompts().FileDialogs().front().dialog.startFolder, "C:\\Packages\\\\Flash");
 }
 
 TEST_F(RegUpdateTest, PackageFolderOf232CharactersIsTheLongest) {

@@ -93,6 +93,17 @@ TEST_F(SWUpdateInfoTest, IconThatCannotBeLoadedIsTracedAndLeftOut) {
     }
 }
 
+TEST_F(SWUpdateInfoTest, OtherCommandLeavesTheDialogOpen) {
+    CSWUpdateInfo prompt(toolkit, help, "1", "");
+    toolkit.Desktop()->prompts.AnswerDialog([&](CHeadlessView& dialog) {
+        for (const ControlId id : {0, 1, 3, 9, 239, 241, 243, 270}) {
+            prompt.OnCommand(id);
+            EXPECT_EQ(dialog.DialogResult(), std::nullopt) << id;
+        }
+    });
+    EXPECT_EQ(prompt.Show(), 2);
+}
+
 TEST_F(SWUpdateInfoTest, HelpRequestOpensTheHelp) {
     Show("1", "", [](CHeadlessView& dialog) { dialog.RequestHelp(); });
     EXPECT_EQ(toolkit.Desktop()->helps.size(), 1u);

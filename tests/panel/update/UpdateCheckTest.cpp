@@ -79,6 +79,28 @@ TEST_F(UpdateCheckTest, InstalledVersionIsLoggedAfterTheListing) {
     EXPECT_EQ(Log()[Log().size() - 2], "File listing updated");
 }
 
+TEST_F(UpdateCheckTest, InstalledVersionIsLoggedBeforeThePrompt) {
+    SetPackageVersion("2.10.4");
+    std::string lastLine;
+    desktop->prompts.AnswerDialog([&](CHeadlessView& dialog) {
+        lastLine = Log().back();
+        dialog.Press(kNoButton);
+    });
+    Connect(DeviceWithPackage("2.10.3"));
+    EXPECT_EQ(lastLine,
+              "Currently installed Flash Update Package in Programming Device is: 002.010.003");
+}
+
+TEST_F(UpdateCheckTest, VersionWithAnotherGroupIsNewer) {
+    SetPackageVersion("1.2.0");
+    AnswerPrompt(kNoButton);
+    Connect(DeviceWithPackage("1.2"));
+    EXPECT_EQ(Prompts(), 1u);
+    SetPackageVersion("1.2");
+    ConnectDevice(DeviceWithPackage("1.2.0"));
+    EXPECT_EQ(Prompts(), 1u);
+}
+
 TEST_F(UpdateCheckTest, DeviceWithoutVersionIsOfferedAnyPackage) {
     desktop->prompts.AnswerDialog([](CHeadlessView& dialog) {
         EXPECT_EQ(dialog.GetText(241), "");
@@ -185,6 +207,31 @@ TEST_F(UpdateCheckTest, MissingPackageFolderLeavesThePathOnTheCurrentDrive) {
     EXPECT_EQ(TakeMessages().size(), 1u);
 }
 
+TEST_F(UpdateCheckTest, PackageFolderTooLongForADialogIsUpdatedFromAllTheSame) {
+    desktop->registry.PutText(kKey, "FlashDir", std::string(250, 'p'));
+    AnswerPrompt(kYesButton);
+    AnswerPrompt(kNoButton);
+    Connect(DeviceWithoutPackage());
+    EXPECT_THAT(device->calls,
+                ElementsAre("UpdateFromIniFile(" + std::string(250, 'p') + "\\Flash\\krx)"));
+    EXPECT_EQ(TakeMessages().size(), 1u);
+}
+
+TEST_F(UpdateCheckTest, SettingsOfThePackageAreReadAndNeverWritten) {
+    SetPackageVersion("2.10.4");
+    desktop->registry.PutText(kKey, "FlashUpdated", "1");
+    const auto before = desktop->registry.keys;
+    AnswerPrompt(kYesButton);
+    AnswerPrompt(kNoButton);
+    Connect(DeviceWithoutPackage());
+    desktop->prompts.ChooseFile("C:\\Pkg\\Flash\\a.ini");
+    AnswerPrompt(kNoButton);
+    EXPECT_TRUE(PressButton(kUpdateButton));
+    EXPECT_EQ(TakeMessages().size(), 2u);
+    EXPECT_EQ(desktop->registry.keys, before);
+    EXPECT_THAT(desktop->registry.namesRead, ElementsAre("FlashDir", "FlashVersion"));
+}
+
 TEST_F(UpdateCheckTest, FailedUpdateIsReportedAndRefreshedAllTheSame) {
     device->answer = [](const std::string&) {
         contract::SetErrorInfo("description is missing");
@@ -227,6 +274,33 @@ TEST_F(UpdateCheckTest, PollingIsResumedBeforeTheSecondRefresh) {
     Connect(DeviceWithoutPackage());
     EXPECT_EQ(TakeMessages().size(), 1u);
     EXPECT_TRUE(isPolling);
+}
+
+TEST_F(UpdateCheckTest, CursorOfTheUpdateIsRestoredBeforeTheSecondRefresh) {
+    int depth = 0;
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetSelfTestResults"},
+                      [&] { depth = desktop->cursorDepth; });
+    AnswerPrompt(kYesButton);
+    AnswerPrompt(kNoButton);
+    Connect(DeviceWithoutPackage());
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    // Those of both refreshes and of the reading of the self-tests.
+    EXPECT_EQ(depth, 3);
+}
+
+TEST_F(UpdateCheckTest, ControlsThatAreEnabledStaySoWhileThePackageIsInstalled) {
+    AnswerPrompt(kNoButton);
+    Connect(DeviceWithoutPackage());
+    bool wasEnabled = false;
+    device->answer = [&](const std::string&) {
+        wasEnabled = IsEnabled(kUpdateButton);
+        return contract::kSuccess;
+    };
+    AnswerPrompt(kYesButton);
+    AnswerPrompt(kNoButton);
+    RaiseState(7);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_TRUE(wasEnabled);
 }
 
 }
