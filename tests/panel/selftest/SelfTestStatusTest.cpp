@@ -4,6 +4,8 @@
 
 #include "tests/support/RoomFixture.h"
 
+#include <utility>
+
 namespace {
 
 using namespace panel;
@@ -45,11 +47,23 @@ TEST_F(SelfTestStatusTest, IgnoredAndNotRunTestsCountAsPassed) {
     EXPECT_TRUE(Query());
 }
 
-TEST_F(SelfTestStatusTest, UnknownResultCountsAsFailed) {
-    Insert(DeviceWithResult(SelfTest::Flash, 796));
-    EXPECT_FALSE(Query());
+class ResultCodeTest : public SelfTestStatusTest,
+                       public testing::WithParamInterface<std::pair<std::int32_t, bool>> {};
+
+TEST_P(ResultCodeTest, OneResultDecidesWhetherAllHavePassed) {
+    Insert(DeviceWithResult(SelfTest::Flash, GetParam().first));
+    EXPECT_EQ(Query(), GetParam().second);
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Codes, ResultCodeTest,
+    testing::Values(std::pair(0, true), std::pair(1, false), std::pair(2, true),
+                    std::pair(787, true), std::pair(788, false), std::pair(789, false),
+                    std::pair(790, false), std::pair(791, false), std::pair(792, false),
+                    std::pair(793, false), std::pair(794, false), std::pair(795, false),
+                    std::pair(796, false), std::pair(809, false), std::pair(812, false),
+                    std::pair(813, false), std::pair(814, false)));
 
 TEST_F(SelfTestStatusTest, LogLineIsWrittenBeforeTheFirstCall) {
     Insert(HealthyDevice(kKrx20));
