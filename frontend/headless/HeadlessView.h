@@ -101,7 +101,7 @@ public:
     // Hands
 
     bool Press(panel::ControlId button);
-    /// Alt and a letter: presses the button with that mnemonic.
+    /// Alt and a letter: presses the button, or toggles the check box, with that mnemonic.
     bool PressMnemonic(char letter);
     bool PressKeyInList(panel::ControlId list, std::uint16_t virtualKey);
     bool ClickRow(panel::ControlId list, int row, Modifier modifier = Modifier::None);

@@ -39,8 +39,9 @@ bool CHeadlessView::Press(ControlId button) {
 
 bool CHeadlessView::PressMnemonic(char letter) {
     for (const HeadlessControl& control : m_controls) {
-        if (control.mnemonic == letter && control.IsButton() && control.IsUsable()) {
-            return Press(control.id);
+        if (control.mnemonic == letter && control.IsUsable() &&
+            (control.IsButton() || control.IsCheckBox())) {
+            return control.IsButton() ? Press(control.id) : Toggle(control.id);
         }
     }
     return false;

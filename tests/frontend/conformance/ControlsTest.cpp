@@ -162,6 +162,13 @@ TEST_F(ControlsTest, MnemonicPressesItsButton) {
     EXPECT_EQ(m_handler.events, Events{"command 312"});
 }
 
+TEST_F(ControlsTest, MnemonicTogglesItsCheckBox) {
+    Show();
+    EXPECT_TRUE(User().PressMnemonic('t'));
+    EXPECT_TRUE(View().IsChecked(kCheck));
+    EXPECT_EQ(m_handler.events, Events{"command 317"});
+}
+
 TEST_F(ControlsTest, MnemonicOfUnusableButtonSendsNothing) {
     Show();
     EXPECT_FALSE(User().PressMnemonic('d'));

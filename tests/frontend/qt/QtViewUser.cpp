@@ -94,8 +94,8 @@ bool CQtViewUser::Press(ControlId button) {
 // A button pressed by its mnemonic shows that for a moment before it sends its command.
 bool CQtViewUser::PressMnemonic(char letter) {
     const auto key = static_cast<Qt::Key>(std::toupper(static_cast<unsigned char>(letter)));
-    QPointer<QPushButton> pressed;
-    for (QPushButton* const button : m_user.GetView()->findChildren<QPushButton*>()) {
+    QPointer<QAbstractButton> pressed;
+    for (QAbstractButton* const button : m_user.GetView()->findChildren<QAbstractButton*>()) {
         if (button->shortcut() == QKeySequence(Qt::ALT | key) && button->isVisible() &&
             button->isEnabled()) {
             pressed = button;

@@ -37,6 +37,10 @@ bool IsPushButton(HWND window) {
     return IsButton(window, BS_PUSHBUTTON) || IsButton(window, BS_DEFPUSHBUTTON);
 }
 
+bool TakesMnemonic(HWND window) {
+    return IsPushButton(window) || IsButton(window, BS_AUTOCHECKBOX);
+}
+
 // What a click in the middle of the control meets.
 bool IsOnTop(HWND view, HWND control) {
     RECT place{};
@@ -94,7 +98,7 @@ bool CWin32ViewUser::PressMnemonic(char letter) {
     bool isThere = false;
     for (const HWND button : ChildrenOf(m_view, L"Button")) {
         isThere =
-            isThere || (IsPushButton(button) && IsUsable(button) &&
+            isThere || (TakesMnemonic(button) && IsUsable(button) &&
                         std::towlower(MnemonicOf(TextOf(button))) == static_cast<wchar_t>(letter));
     }
     PressKey(static_cast<std::uint16_t>(std::toupper(static_cast<unsigned char>(letter))), VK_MENU);
