@@ -43,7 +43,14 @@ TEST_F(KRX10ConfTest, DialogIsAsDesigned) {
         EXPECT_EQ(dialog.GetText(248), "Use DHCP");
         EXPECT_EQ(dialog.GetText(250), "Internal Compact Flash");
         EXPECT_EQ(dialog.GetText(251), "PCCard Compact Flash");
-        EXPECT_TRUE(dialog.PressMnemonic('u') || dialog.Toggle(248));
+    });
+}
+
+TEST_F(KRX10ConfTest, MnemonicTicksDhcp) {
+    Show(Values(false), [](CHeadlessView& dialog) {
+        EXPECT_TRUE(dialog.PressMnemonic('u'));
+        EXPECT_TRUE(dialog.IsChecked(248));
+        EXPECT_FALSE(dialog.IsEnabled(247));
     });
 }
 
@@ -65,6 +72,9 @@ TEST_F(KRX10ConfTest, ValuesAreShown) {
 TEST_F(KRX10ConfTest, DhcpDisablesTheAddresses) {
     Show(Values(true), [](CHeadlessView& dialog) {
         EXPECT_TRUE(dialog.IsChecked(248));
+        EXPECT_EQ(dialog.GetAddress(247), 0xC0A80001u);
+        EXPECT_EQ(dialog.GetAddress(261), 0xFFFFFF00u);
+        EXPECT_EQ(dialog.GetAddress(263), 0xC0A800FEu);
         EXPECT_FALSE(dialog.IsEnabled(247) || dialog.IsEnabled(261) || dialog.IsEnabled(263));
         dialog.Toggle(248);
         EXPECT_TRUE(dialog.IsEnabled(247) && dialog.IsEnabled(261) && dialog.IsEnabled(263));
@@ -93,6 +103,20 @@ TEST_F(KRX10ConfTest, OkTakesWhatWasEntered) {
     EXPECT_FALSE(choice.formatPcCard);
 }
 
+TEST_F(KRX10ConfTest, AddressesThatMakeNoSenseAreTaken) {
+    Show(Values(true), [](CHeadlessView& dialog) {
+        dialog.Toggle(248);
+        dialog.TypeAddress(247, 0xFFFFFFFF);
+        dialog.TypeAddress(261, 0x00FF00FF);
+        dialog.TypeAddress(263, 0);
+        EXPECT_TRUE(dialog.Press(1));
+    });
+    EXPECT_EQ(choice.values.ipAddress, 0xFFFFFFFFu);
+    EXPECT_EQ(choice.values.subnetMask, 0xFF00FF00u);
+    EXPECT_EQ(choice.values.gateway, 0u);
+    EXPECT_FALSE(choice.values.useDhcp);
+}
+
 TEST_F(KRX10ConfTest, DhcpStandsForTheAddresses) {
     Show(Values(false), [](CHeadlessView& dialog) {
         dialog.Toggle(248);
@@ -111,6 +135,13 @@ TEST_F(KRX10ConfTest, DescriptionIsLimitedTo110Characters) {
         dialog.TypeText(249, std::string(200, 'd'));
         dialog.Press(1);
     });
+    EXPECT_EQ(choice.values.description, std::string(110, 'd'));
+}
+
+TEST_F(KRX10ConfTest, LongerDescriptionThanCanBeTypedIsCutAtOk) {
+    NetworkValues values = Values(false);
+    values.description = std::string(200, 'd');
+    Show(values, [](CHeadlessView& dialog) { dialog.Press(1); });
     EXPECT_EQ(choice.values.description, std::string(110, 'd'));
 }
 

@@ -96,10 +96,15 @@ TEST_F(NetworkConfigurationFailureTest, FailedApplyKeepsTheOldAddressesAndTheNew
     FailCall("ApplyConfiguration()");
     Configure([](CHeadlessView& dialog) {
         NewAddress(dialog);
+        dialog.TypeAddress(261, 0xFF000000);
+        dialog.TypeAddress(263, 0x0A000001);
         dialog.TypeText(249, "new name");
     });
     EXPECT_EQ(TakeMessages().size(), 1u);
     EXPECT_EQ(State().network.ipAddress, 0x0100A8C0u);
+    EXPECT_EQ(State().network.subnetMask, 0x00FFFFFFu);
+    EXPECT_EQ(State().network.gateway, 0xFE00A8C0u);
+    EXPECT_FALSE(State().network.useDhcp);
     EXPECT_EQ(State().network.description, "new name");
     EXPECT_EQ(Listings(), 1u);
 }
@@ -136,6 +141,29 @@ INSTANTIATE_TEST_SUITE_P(
                     ReadCase{"Krx10CommunicationConfiguration2.GetGateway", 2},
                     ReadCase{"Krx10CommunicationConfiguration2.GetUseDhcp", 2},
                     ReadCase{"Krx10CommunicationConfiguration2.GetIpAddress", 2}));
+
+TEST_F(NetworkConfigurationFailureTest, ReadBackThatFailsKeepsWhatItHasRead) {
+    device->answer = [this](const std::string& call) {
+        if (call == "ApplyConfiguration()") {
+            simulator::DeviceDescription changed = HealthyDevice(simulator::kKrx20);
+            changed.network.ipAddress = "10.0.0.2";
+            changed.network.ipAddressValue = 0x0200000A;
+            changed.network.subnetMask = 0x000000FF;
+            changed.network.gateway = 0x0100000A;
+            changed.network.useDhcp = true;
+            host.InsertDevice(simulator::CDevice::Create(changed));
+        }
+        return contract::kSuccess;
+    };
+    FailOperation("Krx10CommunicationConfiguration2.GetGateway", 2);
+    Configure();
+    EXPECT_THAT(TakeMessages(), ElementsAre(Report(kReadFailed)));
+    EXPECT_EQ(State().network.ipAddress, 0x0200000Au);
+    EXPECT_EQ(State().network.subnetMask, 0x000000FFu);
+    EXPECT_EQ(State().network.gateway, 0xFE00A8C0u);
+    EXPECT_FALSE(State().network.useDhcp);
+    EXPECT_EQ(Field(kIpAddressField), "192.168.0.1");
+}
 
 TEST_F(NetworkConfigurationFailureTest, FailuresOfBringingBackAreReportedAndTheRestGoesOn) {
     device->answer = [](const std::string& call) {

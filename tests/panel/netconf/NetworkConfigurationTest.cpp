@@ -11,6 +11,19 @@ using testing::IsEmpty;
 
 class NetworkConfigurationTest : public NetworkConfigurationFixture {};
 
+TEST_F(NetworkConfigurationTest, DialogShowsWhatIsKeptOverThePanel) {
+    desktop->prompts.AnswerDialog([](CHeadlessView& dialog) {
+        EXPECT_EQ(dialog.GetAddress(247), 0xC0A80001u);
+        EXPECT_EQ(dialog.GetAddress(261), 0xFFFFFF00u);
+        EXPECT_EQ(dialog.GetAddress(263), 0xC0A800FEu);
+        EXPECT_FALSE(dialog.IsChecked(248));
+        EXPECT_EQ(dialog.GetText(249), "bench 3");
+    });
+    PressButton(kNetworkButton);
+    EXPECT_THAT(desktop->prompts.Dialogs(),
+                ElementsAre(headless::ShownDialog{203, Owner::Panel, DialogOutcome::Closed(2)}));
+}
+
 TEST_F(NetworkConfigurationTest, UnchangedAddressIsNotSetButAllElseIs) {
     Configure();
     EXPECT_THAT(device->calls,
@@ -50,6 +63,7 @@ TEST_F(NetworkConfigurationTest, ConfigurationIsReadBackIntoFieldAndCache) {
             changed.network.subnetMask = 0x000000FF;
             changed.network.gateway = 0x0100000A;
             changed.network.useDhcp = true;
+            changed.network.description = "bench 5";
             host.InsertDevice(simulator::CDevice::Create(changed));
         }
         return contract::kSuccess;
@@ -60,6 +74,7 @@ TEST_F(NetworkConfigurationTest, ConfigurationIsReadBackIntoFieldAndCache) {
     EXPECT_EQ(State().network.subnetMask, 0x000000FFu);
     EXPECT_EQ(State().network.gateway, 0x0100000Au);
     EXPECT_TRUE(State().network.useDhcp);
+    EXPECT_EQ(State().network.description, "bench 3");
 }
 
 TEST_F(NetworkConfigurationTest, EmptyAddressTextShowsZeros) {
