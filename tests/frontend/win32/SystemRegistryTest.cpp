@@ -43,6 +43,16 @@ TEST_F(SystemRegistryTest, CreateMakesTheKeysAboveAndOpenFindsIt) {
     EXPECT_EQ(m_registry.OpenKey("SOFTWARE\\krx8-test", m_key), panel::kRegistrySuccess);
 }
 
+TEST_F(SystemRegistryTest, CreatedKeyLastsBeyondTheSystemsEnd) {
+    Create();
+    // The system refuses a lasting key below one that does not last.
+    HKEY below = nullptr;
+    EXPECT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\krx8-test\\K\x00E4se\\Below", 0,
+                              nullptr, REG_OPTION_NON_VOLATILE, KEY_READ, nullptr, &below, nullptr),
+              0);
+    RegCloseKey(below);
+}
+
 TEST_F(SystemRegistryTest, TextIsReadBackWithItsTerminator) {
     EXPECT_EQ(Create().WriteText("FlashDir", "C:\\\xC3\x84"), panel::kRegistrySuccess);
     EXPECT_EQ(m_key->ReadValue("FlashDir", 260, m_bytes), panel::kRegistrySuccess);
@@ -64,6 +74,16 @@ TEST_F(SystemRegistryTest, NumberIsReadBackAsItsFourBytes) {
     EXPECT_EQ(Create().WriteNumber("Count", 0x04030201), panel::kRegistrySuccess);
     EXPECT_EQ(m_key->ReadValue("Count", 4, m_bytes), panel::kRegistrySuccess);
     EXPECT_EQ(m_bytes, "\x01\x02\x03\x04");
+}
+
+TEST_F(SystemRegistryTest, WrittenNumberIsTheSystemsOwn) {
+    Create().WriteNumber("Count", 0x04030201);
+    DWORD number = 0;
+    DWORD size = sizeof number;
+    EXPECT_EQ(RegGetValueW(HKEY_LOCAL_MACHINE, kWidePath, L"Count", RRF_RT_REG_DWORD, nullptr,
+                           &number, &size),
+              0);
+    EXPECT_EQ(number, 0x04030201u);
 }
 
 TEST_F(SystemRegistryTest, EmptyNameIsTheDefaultValue) {

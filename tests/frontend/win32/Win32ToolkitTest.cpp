@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <dlgs.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <new>
@@ -91,6 +93,23 @@ TEST_F(Win32ToolkitTest, FileDialogStartsInTheFolderGiven) {
         [](conformance::IFileDialogUser& user) { EXPECT_TRUE(user.Accept("code.bin")); });
     EXPECT_EQ(Toolkit().OpenFile({.startFolder = folder.PathOf("")}).path,
               folder.PathOf("code.bin"));
+}
+
+TEST_F(Win32ToolkitTest, OpenDialogHasTheSystemsTitleTheFirstFilterAndNoReadOnlyBox) {
+    std::string title;
+    LRESULT filter = CB_ERR;
+    bool offersReadOnly = true;
+    m_driver.ExpectFileDialog([&](conformance::IFileDialogUser& user) {
+        const HWND dialog = GetActiveWindow();
+        title = user.ShownTitle();
+        filter = SendDlgItemMessageW(dialog, cmb1, CB_GETCURSEL, 0, 0);
+        offersReadOnly = IsWindowVisible(GetDlgItem(dialog, chx1));
+        user.Cancel();
+    });
+    Toolkit().OpenFile({.filters = {{"Code", "*.bin"}, {"All files", "*.*"}}});
+    EXPECT_EQ(title, "Open");
+    EXPECT_EQ(filter, 0);
+    EXPECT_FALSE(offersReadOnly);
 }
 
 TEST_F(Win32ToolkitTest, ComponentFolderIsThatOfTheProgram) {

@@ -5,6 +5,7 @@
 
 #include "frontend/win32/Text.h"
 #include "frontend/win32/Win32Toolkit.h"
+#include "panel/selftest/SelfTestTemplate.h"
 #include "tests/frontend/conformance/RecordingHandler.h"
 #include "tests/frontend/win32/HostWindow.h"
 #include "tests/frontend/win32/Input.h"
@@ -60,6 +61,16 @@ TEST_F(Win32ViewTest, ViewIsAVisibleChildOfTheHostsWindow) {
 
 TEST_F(Win32ViewTest, CutTextsOfAListUnfoldUnderTheMouse) {
     EXPECT_TRUE(SendMessageW(Control(kList), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_LABELTIP);
+}
+
+TEST_F(Win32ViewTest, ListOfSelfTestsShowsItsOneSelectionAlwaysAndSortsNothing) {
+    const auto view = m_toolkit.CreateView(panel::kSelfTestTemplate, m_host->Get(), m_handler);
+    const HWND window = dynamic_cast<win32::CWin32View&>(*view).GetWindow();
+    const auto style = GetWindowLongPtrW(GetDlgItem(window, 236), GWL_STYLE);
+    EXPECT_EQ(style & LVS_TYPEMASK, LVS_REPORT);
+    EXPECT_TRUE(style & LVS_SINGLESEL);
+    EXPECT_TRUE(style & LVS_SHOWSELALWAYS);
+    EXPECT_TRUE(style & LVS_NOSORTHEADER);
 }
 
 TEST_F(Win32ViewTest, DestroyedViewLeavesNoWindow) {
