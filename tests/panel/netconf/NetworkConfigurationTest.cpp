@@ -124,6 +124,14 @@ TEST_F(NetworkConfigurationTest, CancelSendsNothingAndKeepsTheDescription) {
     EXPECT_EQ(State().network.description, "bench 3");
 }
 
+TEST_F(NetworkConfigurationTest, NewDescriptionIsKeptBeforeTheDeviceIsCalled) {
+    std::string kept;
+    faults->RunBefore({2, "ProgrammingDeviceSubsystem.GetKrx10Control"},
+                      [&] { kept = State().network.description; });
+    Configure([](CHeadlessView& dialog) { dialog.TypeText(249, "new name"); });
+    EXPECT_EQ(kept, "new name");
+}
+
 TEST_F(NetworkConfigurationTest, DialogThatCannotBeMadeStopsTheCommand) {
     desktop->prompts.FailDialog(8);
     PressButton(kNetworkButton);
