@@ -19,13 +19,17 @@ Status RegisterComponent(IRegistrar& registrar, std::string_view script,
     if (status.IsFailure()) {
         return status;
     }
-    for (const ComponentCategory& category : ComponentCategories()) {
+    RegisterCategories(registrar, ComponentCategories());
+    return contract::kSuccess;
+}
+
+void RegisterCategories(IRegistrar& registrar, std::span<const ComponentCategory> categories) {
+    for (const ComponentCategory& category : categories) {
         // One that cannot be registered is no reason to go without the others, or the component.
         static_cast<void>(registrar.RegisterCategory(
             category.identifier, kCategoryLocale,
             CutToUtf16Units(category.description, kLongestCategoryDescription)));
     }
-    return contract::kSuccess;
 }
 
 Status UnregisterComponent(IRegistrar& registrar, std::string_view script) {

@@ -31,6 +31,9 @@ public:
 contract::Status RegisterComponent(IRegistrar& registrar, std::string_view script,
                                    const std::string& module);
 
+/// Registers each category, with its description cut to what a manager has room for.
+void RegisterCategories(IRegistrar& registrar, std::span<const ComponentCategory> categories);
+
 /// Takes back class and type library; returns the first failure. The categories stay, since other
 /// components use them.
 contract::Status UnregisterComponent(IRegistrar& registrar, std::string_view script);

@@ -94,6 +94,18 @@ TEST_F(ComponentRegistrationTest, CategoriesThatFailStopNeitherTheOthersNorTheRe
     EXPECT_EQ(m_registrar.log, kWholeRegistration);
 }
 
+TEST_F(ComponentRegistrationTest, DescriptionOfACategoryIsCutTo127Units) {
+    const std::string longest(127, 'x');
+    const std::string tooLong = longest + "y";
+    const std::string cutInsideASymbol = std::string(126, 'x') + "\U0001F50C";
+    const ComponentCategory categories[] = {
+        {{}, longest.c_str()}, {{}, tooLong.c_str()}, {{}, cutInsideASymbol.c_str()}};
+    RegisterCategories(m_registrar, categories);
+    const std::string start = "{00000000-0000-0000-0000-000000000000} 1033 ";
+    EXPECT_THAT(m_registrar.log,
+                ElementsAre(start + longest, start + longest, start + std::string(126, 'x')));
+}
+
 TEST_F(ComponentRegistrationTest, RegisteringTwiceDoesTheSameTwice) {
     EXPECT_EQ(Register(), kSuccess);
     m_registrar.log.clear();
