@@ -40,7 +40,7 @@ struct HeadlessDesktop {
     CMemoryRegistry registry;
     panel::LocalTime now{"20.11.2026", "14:05"};
     char pathSeparator = '\\';
-    /// Without their newline.
+    /// Without their newline; one that lacks it, and so would run into the next, says so.
     std::vector<std::string> traceLines;
 };
 

@@ -116,8 +116,9 @@ void CHeadlessToolkit::ShowHelp(const std::string& file, std::uint32_t context,
 panel::FontMetrics CHeadlessToolkit::MeasureFont() const { return kFont; }
 
 void CHeadlessToolkit::Trace(const std::string& line) {
-    const std::size_t end = line.ends_with('\n') ? line.size() - 1 : line.size();
-    m_desktop->traceLines.push_back(line.substr(0, end));
+    const bool isEnded = line.ends_with('\n');
+    m_desktop->traceLines.push_back(isEnded ? line.substr(0, line.size() - 1)
+                                            : line + " (without newline)");
 }
 
 }

@@ -146,9 +146,10 @@ TEST_F(HeadlessToolkitTest, CursorDepthAndItsHighestAreKept) {
 TEST_F(HeadlessToolkitTest, HelpAndTraceAreRecorded) {
     m_toolkit.ShowHelp("folder/panel.hlp", 3, Owner::ActiveWindow);
     m_toolkit.Trace("a line\n");
+    m_toolkit.Trace("another");
     const std::vector<ShownHelp> expected = {{"folder/panel.hlp", 3, Owner::ActiveWindow}};
     EXPECT_EQ(m_desktop->helps, expected);
-    EXPECT_EQ(m_desktop->traceLines, Events{"a line"});
+    EXPECT_EQ(m_desktop->traceLines, (Events{"a line", "another (without newline)"}));
 }
 
 TEST_F(HeadlessToolkitTest, ComponentFolderIsWhatTheDesktopSays) {

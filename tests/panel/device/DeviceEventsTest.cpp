@@ -75,6 +75,14 @@ TEST_F(DeviceEventsTest, RepeatedModeWritesOneLine) {
     EXPECT_THAT(Log(), ElementsAre("Programming Device is in Service mode"));
 }
 
+TEST_F(DeviceEventsTest, RepeatedModeAfterAnotherLineIsWrittenAgain) {
+    Device().RaiseMode(2);
+    Device().RaiseMessage("Erasing", 1, 2);
+    Device().RaiseMode(2);
+    EXPECT_THAT(Log(), ElementsAre("Programming Device is in Service mode", "Erasing 50%",
+                                   "Programming Device is in Service mode"));
+}
+
 TEST_F(DeviceEventsTest, UnknownModesShareOneLineButEachIsStored) {
     Device().RaiseMode(7);
     Device().RaiseMode(8);
