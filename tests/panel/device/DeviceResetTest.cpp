@@ -18,6 +18,20 @@ protected:
     std::size_t Listings() const {
         return faults->Calls("ProgrammingDeviceControl.GetFileListing");
     }
+    /// All that the panel shows but the log: texts, rows, and what is enabled.
+    std::string Picture() {
+        std::string picture;
+        for (const ControlId id : View().StackingOrder()) {
+            picture += std::to_string(id) + (IsEnabled(id) ? " on " : " off ");
+            picture += (id == kStatusLog ? "" : Field(id)) + "\n";
+        }
+        for (int row = 0; row < RowCount(); ++row) {
+            for (const std::string& cell : Row(row)) {
+                picture += cell + "|";
+            }
+        }
+        return picture;
+    }
     /// Runs while the device resets.
     void WhileResetting(std::function<void()> action) {
         device->answer = [action = std::move(action)](const std::string&) {
@@ -54,6 +68,26 @@ TEST_F(DeviceResetTest, WaitCursorShowsAllTheWhile) {
     EXPECT_THAT(depths, ElementsAre(1, 2));
 }
 
+TEST_F(DeviceResetTest, WaitCursorShowsFromBeforeTheGuardUntilAfterIt) {
+    std::vector<int> depths;
+    const auto look = [&] { depths.push_back(desktop->cursorDepth); };
+    faults->RunBefore({1, "ProductInformation.GetProductDetection"}, look);
+    faults->RunBefore({2, "ProductDetectionControl.SetPollingEnabled"}, look);
+    messageService->whileOpen = look;
+    FailCall("RequestMode(4)");
+    Reset();
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_THAT(depths, ElementsAre(1, 1, 1));
+    EXPECT_EQ(desktop->cursorDepth, 0);
+}
+
+TEST_F(DeviceResetTest, EventWhileTheGuardIsMadeStartsNoRefresh) {
+    faults->RunBefore({1, "ProductInformation.GetProductDetection"}, [this] { RaiseState(7); });
+    Reset();
+    EXPECT_EQ(faults->Calls("HardwareInfo.GetDeviceType"), 2u);
+    EXPECT_EQ(Listings(), 2u);
+}
+
 TEST_F(DeviceResetTest, EventDuringTheResetStartsNoRefresh) {
     WhileResetting([this] {
         EXPECT_FALSE(State().refreshAllowed);
@@ -78,6 +112,65 @@ TEST_F(DeviceResetTest, FailureIsReportedWithoutRefresh) {
     EXPECT_TRUE(IsEnabled(kResetButton));
     EXPECT_TRUE(host.PollingEnabled());
 }
+
+TEST_F(DeviceResetTest, EventDuringAFailingResetStartsNoRefresh) {
+    device->answer = [this](const std::string&) {
+        RaiseState(7);
+        return kFault;
+    };
+    Reset();
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_EQ(Listings(), 1u);
+}
+
+TEST_F(DeviceResetTest, FailureLeavesThePanelAsItWas) {
+    simulator::DeviceDescription description = HealthyDevice(simulator::kKrx20);
+    description.selfTests[contract::SelfTest::Usb] = 1;
+    ConnectDevice(description);
+    SelectRows({1});
+    const std::string before = Picture();
+    EXPECT_TRUE(IsEnabled(kDetailsButton));
+    FailCall("RequestMode(4)", kFault);
+    std::string behindTheReport;
+    messageService->whileOpen = [&] { behindTheReport = Picture(); };
+    Reset();
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_EQ(behindTheReport, before);
+    EXPECT_EQ(Picture(), before);
+    EXPECT_THAT(View().GetSelectedRows(kFileList), ElementsAre(1));
+}
+
+TEST_F(DeviceResetTest, PollingThatWasOffStaysOff) {
+    host.SetPollingEnabled(false);
+    Reset();
+    EXPECT_EQ(Listings(), 2u);
+    EXPECT_EQ(faults->Calls("ProductDetectionControl.SetPollingEnabled"), 0u);
+    EXPECT_FALSE(host.PollingEnabled());
+}
+
+class UnsuspendedResetTest
+    : public DeviceResetTest,
+      public testing::WithParamInterface<std::pair<const char*, const char*>> {};
+
+TEST_P(UnsuspendedResetTest, ResetRunsAfterTheReport) {
+    faults->Fail({1, GetParam().first}, {kFault, "no answer"});
+    Reset();
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(ErrorReport(GetParam().second, "Disabling Product Detection", kFault,
+                                        "no answer")));
+    EXPECT_THAT(device->calls, ElementsAre("RequestMode(4)"));
+    EXPECT_EQ(Listings(), 2u);
+    EXPECT_TRUE(host.PollingEnabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Steps, UnsuspendedResetTest,
+    testing::Values(std::pair("ProductDetection.QueryProductDetectionControl",
+                              "Query of IProductDetectionControl interface failed"),
+                    std::pair("ProductDetectionControl.GetPollingEnabled",
+                              "Product Communication state getting failed"),
+                    std::pair("ProductDetectionControl.SetPollingEnabled",
+                              "Disabling of product polling failed")));
 
 TEST_F(DeviceResetTest, ResetRunsAlthoughPollingCannotBeSuspended) {
     faults->Fail({1, "ProductInformation.GetProductDetection"}, {kFault, "no answer"});

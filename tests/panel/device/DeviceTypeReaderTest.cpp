@@ -128,6 +128,22 @@ TEST_F(DeviceTypeReaderTest, WrongTypeAfterADeviceLeavesWhatIsShown) {
     EXPECT_TRUE(IsEnabled(226));
 }
 
+TEST_F(DeviceTypeReaderTest, UnknownDeviceIsGivenAndTakenEveryControl) {
+    ConnectDevice(kKrx8);
+    ConnectDevice(6);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    ASSERT_TRUE(PressButton(kResetButton));
+    EXPECT_EQ(Field(201), "KRX-unknown");
+    for (const ControlId id : {224, 226, 227, 228, 229, 244, 245, 246}) {
+        EXPECT_TRUE(IsEnabled(id)) << id;
+    }
+    RaiseState(5);
+    EXPECT_EQ(Field(201), "KRX-unknown");
+    for (const ControlId id : {222, 224, 226, 227, 228, 229, 244, 245, 246}) {
+        EXPECT_FALSE(IsEnabled(id)) << id;
+    }
+}
+
 TEST_F(DeviceTypeReaderTest, WrongTypeHasNoDescriptionWhateverCameBefore) {
     faults->RunBefore({1, "HardwareInfo.GetDeviceType"},
                       [] { contract::SetErrorInfo("an earlier failure"); });

@@ -1,5 +1,6 @@
 #include "panel/device/ProductDetectionDisabler.h"
 
+#include "contract/ErrorInfo.h"
 #include "panel/control/Trace.h"
 #include "tests/support/RoomFixture.h"
 
@@ -216,6 +217,31 @@ TEST_F(ProductDetectionDisablerTest, FailuresOfRestoringAreReported) {
     EXPECT_THAT(
         TakeMessages(),
         ElementsAre(Report("Query of IProductDetectionControl interface failed", kEnabling)));
+}
+
+TEST_F(ProductDetectionDisablerTest, PollingStaysOffWhenItsControlIsGoneAtTheEnd) {
+    FailCall(kQuery, 2);
+    Make(true);
+    End();
+    EXPECT_THAT(
+        TakeMessages(),
+        ElementsAre(Report("Query of IProductDetectionControl interface failed", kEnabling)));
+    EXPECT_EQ(faults->Calls(kSetPolling), 1u);
+    EXPECT_FALSE(host.PollingEnabled());
+}
+
+TEST_F(ProductDetectionDisablerTest, MissingDetectionIsReportedWithoutAnOlderDescription) {
+    faults->DeliverNull({1, "ProductInformation.GetProductDetection"});
+    Make(true);
+    TakeMessages();
+    contract::SetErrorInfo("left by the command");
+    disabler->Suspend();
+    contract::SetErrorInfo("left by the command");
+    End();
+    const char* text = "Query of IProductDetectionControl interface failed";
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(ErrorReport(text, kDisabling, Status::FromBits(0x80004002), ""),
+                            ErrorReport(text, kEnabling, Status::FromBits(0x80004002), "")));
 }
 
 TEST_F(ProductDetectionDisablerTest, NullAccessIsReportedAsInvalidPointer) {
