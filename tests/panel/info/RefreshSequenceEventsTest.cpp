@@ -27,6 +27,27 @@ TEST_F(RefreshSequenceEventsTest, WaitCursorShowsThroughoutTheRefresh) {
     EXPECT_EQ(desktop->cursorDepth, 0);
 }
 
+TEST_F(RefreshSequenceEventsTest, WaitCursorShowsThroughListingAndOffer) {
+    std::vector<bool> isBusy;
+    const auto look = [&] { isBusy.push_back(desktop->cursorDepth > 0); };
+    Inside("FileInfo.GetGeneration", look);
+    desktop->prompts.AnswerDialog([&](headless::CHeadlessView&) { look(); });
+    DeviceDescription device = HealthyDevice(kKrx20);
+    device.files = {File("alpha.fia", 19, 1)};
+    ConnectDevice(device);
+    EXPECT_THAT(isBusy, ElementsAre(true, true));
+}
+
+TEST_F(RefreshSequenceEventsTest, FirstRowIsSelectedWhateverWas) {
+    ConnectDevice(kKrx20);
+    View().SelectRow(kFileList, 0, false);
+    View().SelectRow(kFileList, 2, true);
+    View().SetSelectionMark(kFileList, 2);
+    RaiseState(7);
+    EXPECT_THAT(View().GetSelectedRows(kFileList), ElementsAre(0));
+    EXPECT_EQ(View().GetSelectionMark(kFileList), 0);
+}
+
 TEST_F(RefreshSequenceEventsTest, ControlsAreEnabledLast) {
     bool wasEnabled = true;
     Inside(

@@ -166,6 +166,18 @@ TEST_F(RefreshSequenceTest, UnreadableTestsAreReportedAndRefreshContinues) {
     EXPECT_EQ(RowCount(), 3);
 }
 
+TEST_F(RefreshSequenceTest, SelfTestStatusIsShownBeforeTheModeIsAskedFor) {
+    std::string status;
+    bool areDetailsOffered = false;
+    Inside("ProgrammingDeviceControl.RequestMode", [&] {
+        status = Field(kSelfTestField);
+        areDetailsOffered = IsEnabled(kDetailsButton);
+    });
+    ConnectDevice(DeviceWithFailedTest());
+    EXPECT_EQ(status, "Some tests failed");
+    EXPECT_TRUE(areDetailsOffered);
+}
+
 // Mode
 
 TEST_F(RefreshSequenceTest, KnownModeIsNotAskedForAgain) {
@@ -216,6 +228,20 @@ TEST_P(RefreshModeTest, OtherModeWarnsAndListsNoFiles) {
 
 INSTANTIATE_TEST_SUITE_P(Modes, RefreshModeTest, testing::Values(0, 2, 3, 7, -1));
 
+class KnownOtherModeTest : public RefreshSequenceTest,
+                           public testing::WithParamInterface<std::int32_t> {};
+
+TEST_P(KnownOtherModeTest, OtherModeIsNotAskedForAgainButWarnedOfAgain) {
+    ConnectDevice(DeviceInMode(kKrx20, GetParam()));
+    ForgetWhatWasSeen();
+    RaiseState(7);
+    EXPECT_EQ(TakeCalls(), Join({kTypeCalls, kSelfTestCalls, kInformationCalls, kFreeMemoryCalls,
+                                 kNetworkCalls, kBoxCalls}));
+    EXPECT_THAT(TakeMessages(), ElementsAre(kNotNormalWarning));
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, KnownOtherModeTest, testing::Values(2, 3, 7, -1));
+
 TEST_F(RefreshSequenceTest, WarningComesAfterTheInformationAndBeforeTheList) {
     std::vector<std::string> before;
     messageService->whileOpen = [&] {
@@ -264,6 +290,16 @@ TEST_F(RefreshSequenceTest, PackageVersionIsEmptiedAfterTheInformation) {
     RaiseState(7);
     EXPECT_EQ(during, "002.005.013");
     EXPECT_EQ(after, "");
+}
+
+TEST_F(RefreshSequenceTest, PackageVersionIsEmptyBehindTheWarning) {
+    ConnectDevice(kKrx20);
+    host.Device()->EnterMode(kServiceMode);
+    std::string behindTheWarning = "unset";
+    messageService->whileOpen = [&] { behindTheWarning = State().installedPackageVersion; };
+    RaiseState(7);
+    EXPECT_THAT(TakeMessages(), ElementsAre(kNotNormalWarning));
+    EXPECT_EQ(behindTheWarning, "");
 }
 
 TEST_F(RefreshSequenceTest, ServiceModeEmptiesThePackageVersion) {

@@ -173,6 +173,22 @@ TEST_F(UpdateCheckTest, YesUpdatesAndRefreshesAgain) {
     EXPECT_TRUE(IsEnabled(kUpdateButton));
 }
 
+TEST_F(UpdateCheckTest, SecondRefreshEndsWithinTheFirst) {
+    std::vector<bool> areEnabled;
+    std::vector<int> depths;
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetFileListing"}, [&] {
+        areEnabled.push_back(IsEnabled(kUpdateButton));
+        depths.push_back(desktop->cursorDepth);
+    });
+    AnswerPrompt(kYesButton);
+    AnswerPrompt(kNoButton);
+    Connect(DeviceWithoutPackage());
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_THAT(areEnabled, ElementsAre(false));
+    EXPECT_THAT(depths, ElementsAre(2));
+    EXPECT_EQ(TakeCalls().back(), "FileInfo.GetGeneration");
+}
+
 TEST_F(UpdateCheckTest, UpdateThatInstallsTheVersionIsNotAskedAgain) {
     AnswerPrompt(kYesButton);
     device->answer = [this](const std::string&) {
