@@ -138,6 +138,7 @@ TEST_F(DeviceResetTest, FailureLeavesThePanelAsItWas) {
     EXPECT_EQ(behindTheReport, before);
     EXPECT_EQ(Picture(), before);
     EXPECT_THAT(View().GetSelectedRows(kFileList), ElementsAre(1));
+    EXPECT_EQ(State().deviceMode, DeviceMode::Normal);
 }
 
 TEST_F(DeviceResetTest, PollingThatWasOffStaysOff) {

@@ -189,20 +189,43 @@ INSTANTIATE_TEST_SUITE_P(
                     MemoryFailureCase{"FreeResources.GetFreeFlashSize",
                                       "Free Flash size query failed", "2097152"}));
 
-TEST_F(DeviceInformationFailureTest, FailingReadKeepsTheOlderNetworkValues) {
-    ConnectDevice(kKrx20);
+struct OlderCase {
+    const char* operation;
+    /// Values that are read anew, from the first one.
+    std::size_t renewed;
+};
+
+void PrintTo(const OlderCase& value, std::ostream* out) { *out << value.operation; }
+
+class OlderValuesTest : public DeviceInformationFailureTest,
+                        public testing::WithParamInterface<OlderCase> {};
+
+TEST_P(OlderValuesTest, FailingReadKeepsTheOlderNetworkValues) {
     DeviceDescription other = HealthyDevice(kKrx20);
+    other.network.useDhcp = true;
+    ConnectDevice(other);
     other.network.ipAddressValue = 0x0500000A;
     other.network.subnetMask = 0x000000FF;
+    other.network.gateway = 0x0100000A;
+    other.network.useDhcp = false;
     other.network.description = "bench 4";
-    faults->Fail({2, "Krx10CommunicationConfiguration2.GetSubnetMask"});
+    faults->Fail({2, std::string("Krx10CommunicationConfiguration2.") + GetParam().operation});
     ConnectDevice(other);
-    EXPECT_EQ(State().network.ipAddress, 0x0500000Au);
-    EXPECT_EQ(State().network.subnetMask, 0x00FFFFFFu);
-    EXPECT_EQ(State().network.gateway, 0xFE00A8C0u);
-    EXPECT_FALSE(State().network.useDhcp);
-    EXPECT_EQ(State().network.description, "bench 3");
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    const std::size_t renewed = GetParam().renewed;
+    EXPECT_EQ(State().network.ipAddress, renewed > 0 ? 0x0500000Au : 0x0100A8C0u);
+    EXPECT_EQ(State().network.subnetMask, renewed > 1 ? 0x000000FFu : 0x00FFFFFFu);
+    EXPECT_EQ(State().network.gateway, renewed > 2 ? 0x0100000Au : 0xFE00A8C0u);
+    EXPECT_EQ(State().network.useDhcp, renewed <= 3);
+    EXPECT_EQ(State().network.description, renewed > 4 ? "bench 4" : "bench 3");
 }
+
+INSTANTIATE_TEST_SUITE_P(Reads, OlderValuesTest,
+                         testing::Values(OlderCase{"GetIpAddress", 0},
+                                         OlderCase{"GetIpAddressValue", 0},
+                                         OlderCase{"GetSubnetMask", 1}, OlderCase{"GetGateway", 2},
+                                         OlderCase{"GetUseDhcp", 3}, OlderCase{"GetDescription", 4},
+                                         OlderCase{"GetMacAddress", 5}));
 
 TEST_F(DeviceInformationFailureTest, Krx8LeavesTheKeptNetworkValues) {
     ConnectDevice(kKrx20);
