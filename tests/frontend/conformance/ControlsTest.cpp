@@ -85,6 +85,15 @@ TEST_F(ControlsTest, SetTextEmptyEmptiesTheField) {
     EXPECT_EQ(User().ShownText(kField), "");
 }
 
+TEST_F(ControlsTest, FieldsForReadingCannotBeTypedInto) {
+    Show();
+    View().SetText(kNumber, "1048576");
+    User().TypeText(kField, "typed");
+    User().TypeText(kNumber, "99");
+    EXPECT_EQ(User().ShownText(kField), "initial");
+    EXPECT_EQ(User().ShownText(kNumber), "1048576");
+}
+
 TEST_F(ControlsTest, AmpersandSetAtRunTimeIsShown) {
     Show();
     for (panel::ControlId id : {kFrame, kCaption, kCentred, kField, kFirstButton, kEdit, kCheck}) {
