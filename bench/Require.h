@@ -6,11 +6,16 @@
 
 namespace bench {
 
-/// Throws when a call failed that must not: figures of a broken run would mean nothing.
-inline void Require(contract::Status status, const char* failure) {
-    if (status.IsFailure()) {
+/// Throws when something is not as it must be: figures of a broken run would mean nothing.
+inline void Require(bool isSound, const char* failure) {
+    if (!isSound) {
         throw std::runtime_error(failure);
     }
+}
+
+/// The same for a call.
+inline void Require(contract::Status status, const char* failure) {
+    Require(status.IsSuccess(), failure);
 }
 
 }
