@@ -58,6 +58,10 @@ void CListView::keyPressEvent(QKeyEvent* event) {
     if (!self) {
         return;
     }
+    // The toolkit would select every row, but which keys do that is for the list's owner to say.
+    if (event->matches(QKeySequence::SelectAll)) {
+        return;
+    }
     ApplySelection();
     BringUpToDate();
     const int rowBefore = GetFocusedRow();

@@ -135,6 +135,16 @@ TEST_F(ListViewTest, ControlWithSpaceTogglesTheRowAndMarksIt) {
     EXPECT_EQ(m_list.GetSelectionMark(), 2);
 }
 
+TEST_F(ListViewTest, SelectAllShortcutIsAKeyLikeAnyOther) {
+    std::vector<int> keys;
+    m_list.SetKeyListener([&](std::uint16_t key) { keys.push_back(key); });
+    Fill(10);
+    m_list.SelectRow(3, true);
+    PressKey(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(keys, (std::vector<int>{0x11, 'A'})) << "Control and the letter";
+    EXPECT_EQ(m_list.GetSelectedRows(), Rows{3});
+}
+
 TEST_F(ListViewTest, LeftAndRightKeepTheRow) {
     Fill(10);
     PressKey(Qt::Key_End);
