@@ -1,5 +1,6 @@
 #include "tests/support/WritingDevice.h"
 
+#include "contract/device/ExternalStorages.h"
 #include "contract/device/HardwareInfo.h"
 
 #include <cstdio>
@@ -51,6 +52,19 @@ public:
 private:
     const std::shared_ptr<contract::IHardwareInfo> m_info;
     const std::int32_t m_type;
+};
+
+class CToldStorages final : public contract::IExternalStorages {
+public:
+    explicit CToldStorages(std::int32_t count) : m_count(count) {}
+
+    Status GetCount(std::int32_t& count) override {
+        count = m_count;
+        return contract::kSuccess;
+    }
+
+private:
+    const std::int32_t m_count;
 };
 
 template <class First, class... Rest>
@@ -133,6 +147,22 @@ Status CWritingDevice::GetHardwareInfo(std::shared_ptr<contract::IHardwareInfo>&
     return status;
 }
 
+Status CWritingDevice::GetSoftwareInfo(std::shared_ptr<contract::ISoftwareInfo>& info) {
+    if (!software) {
+        return m_control->GetSoftwareInfo(info);
+    }
+    info = software;
+    return contract::kSuccess;
+}
+
+Status CWritingDevice::GetExternalStorages(std::shared_ptr<contract::IExternalStorages>& storages) {
+    if (!toldStorages) {
+        return m_control->GetExternalStorages(storages);
+    }
+    storages = std::make_shared<CToldStorages>(*toldStorages);
+    return contract::kSuccess;
+}
+
 Status CWritingDevice::RequestMode(contract::ModeRequest request) {
     return request == contract::ModeRequest::Report
                ? m_control->RequestMode(request)
@@ -140,7 +170,8 @@ Status CWritingDevice::RequestMode(contract::ModeRequest request) {
 }
 
 Status CWritingDevice::UploadPhoneFile(const std::string& path, std::int32_t destination,
-                                       std::int32_t method, std::int32_t&) {
+                                       std::int32_t method, std::int32_t& result) {
+    result = contract::kUnspecifiedFailure.Code();
     return Note(Called("UploadPhoneFile", path, destination, method));
 }
 

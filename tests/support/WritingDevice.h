@@ -38,6 +38,10 @@ public:
     std::function<Status(const std::string& call)> answer;
     /// The type that the device says it is of; none: its own.
     std::optional<std::int32_t> toldType;
+    /// The count of external storages that it tells; none: its own.
+    std::optional<std::int32_t> toldStorages;
+    /// What it answers about its software; null: its own.
+    std::shared_ptr<contract::ISoftwareInfo> software;
 
     // contract::ISubsystemAccess, ISubsystem and IProgrammingDeviceSubsystem
     Status GetSubsystem(const contract::Guid& identifier,
@@ -57,9 +61,7 @@ public:
         return m_control->QueryBaseObject(object);
     }
     Status GetHardwareInfo(std::shared_ptr<contract::IHardwareInfo>& info) override;
-    Status GetSoftwareInfo(std::shared_ptr<contract::ISoftwareInfo>& info) override {
-        return m_control->GetSoftwareInfo(info);
-    }
+    Status GetSoftwareInfo(std::shared_ptr<contract::ISoftwareInfo>& info) override;
     Status GetFreeResources(std::shared_ptr<contract::IFreeResources>& resources) override {
         return m_control->GetFreeResources(resources);
     }
@@ -69,11 +71,10 @@ public:
     Status GetFileListing(std::shared_ptr<contract::IFileListing>& listing) override {
         return m_control->GetFileListing(listing);
     }
-    Status GetExternalStorages(std::shared_ptr<contract::IExternalStorages>& storages) override {
-        return m_control->GetExternalStorages(storages);
-    }
+    Status GetExternalStorages(std::shared_ptr<contract::IExternalStorages>& storages) override;
     /// A request for the mode goes to the host's device and is not noted.
     Status RequestMode(contract::ModeRequest request) override;
+    /// Delivers a result that looks like a failure, for nobody to heed.
     Status UploadPhoneFile(const std::string& path, std::int32_t destination, std::int32_t method,
                            std::int32_t& result) override;
     Status MoveFile(std::int32_t type, std::int32_t id, std::int32_t destination,

@@ -1,4 +1,5 @@
 #include "tests/panel/info/MaintenanceReportFixture.h"
+#include "tests/support/RoomFixture.h"
 
 namespace {
 
@@ -98,6 +99,16 @@ TEST_F(MaintenanceReportFailureTest, NullObjectsCountAsFailures) {
                                         Status::FromBits(0x80004002)),
                             ErrorReport("Type Info retrieving failed", kReportCaption,
                                         Status::FromBits(0x80004003))));
+}
+
+class UnconnectedReportTest : public RoomFixture {};
+
+TEST_F(UnconnectedReportTest, ReportWithoutControlFailsAtItsFirstCall) {
+    rooms->report.WriteMaintenanceReport();
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(ErrorReport("Software Info request failed", kReportCaption,
+                                        Status::FromBits(0x80004003))));
+    EXPECT_THAT(desktop->prompts.FileDialogs(), IsEmpty());
 }
 
 }

@@ -76,15 +76,6 @@ TEST_F(MaintenanceReportTest, EmptySecurityVersionTakesNoLine) {
     EXPECT_THAT(Content(Path()), Not(HasSubstr("SECURITY")));
 }
 
-TEST_F(MaintenanceReportTest, VersionIsCutTo80Bytes) {
-    simulator::DeviceDescription description = Device(simulator::kKrx8);
-    description.software.security = std::string(100, 's');
-    Start(description);
-    Report(Path());
-    EXPECT_EQ(TakeMessages().size(), 1u);
-    EXPECT_THAT(Content(Path()), HasSubstr("SECURITY SW VER : " + std::string(80, 's') + "\r\n"));
-}
-
 TEST_F(MaintenanceReportTest, FieldsAreTakenAsShown) {
     Start(Device(simulator::kKrx8));
     View().SetText(kSerialNumberField, std::string(30, '9'));
@@ -96,6 +87,36 @@ TEST_F(MaintenanceReportTest, FieldsAreTakenAsShown) {
     EXPECT_THAT(Content(Path()), HasSubstr("SERIAL NUMBER : " + std::string(19, '9') + "\r\n"));
     EXPECT_THAT(Content(Path()), HasSubstr("BOOT SW VER : " + std::string(79, 'b') + "\r\n"));
     EXPECT_THAT(Content(Path()), HasSubstr("FLASH SIZE (MB) : 15\r\nSRAM SIZE (MB) : 0\r\n"));
+}
+
+TEST_F(MaintenanceReportTest, LongVersionsAreCutTo79Bytes) {
+    Start(Device(simulator::kKrx8));
+    const std::string text = std::string(79, 'v') + "w";
+    for (const ControlId field : {217, 219, 218, 212}) {
+        View().SetText(field, text);
+    }
+    Report(Path());
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    const std::string shown = " : " + std::string(79, 'v') + "\r\n";
+    for (const char* label : {"BOOT SW VER", "APPLICATION SW VER", "FPGA CODE VER", "HW VERSION"}) {
+        EXPECT_THAT(Content(Path()), HasSubstr("\r\n" + (label + shown)));
+    }
+}
+
+TEST_F(MaintenanceReportTest, SizesAreUnsignedAndZeroWithoutANumber) {
+    Start(Device(simulator::kKrx8));
+    const auto sizes = [this](const char* flash, const char* ram) {
+        View().SetText(213, flash);
+        View().SetText(215, ram);
+        Report(Path());
+        EXPECT_EQ(TakeMessages().size(), 1u);
+        const std::string report = Content(Path());
+        return report.substr(report.find("FLASH"));
+    };
+    EXPECT_EQ(sizes("4294967295", "3221225472"),
+              "FLASH SIZE (MB) : 4095\r\nSRAM SIZE (MB) : 3072\r\n");
+    EXPECT_EQ(sizes("unknown", "n/a"), "FLASH SIZE (MB) : 0\r\nSRAM SIZE (MB) : 0\r\n");
+    EXPECT_EQ(sizes("", "1048576"), "FLASH SIZE (MB) : 0\r\nSRAM SIZE (MB) : 1\r\n");
 }
 
 TEST_F(MaintenanceReportTest, FieldsAreReadBeforeTheDeviceIsAsked) {
@@ -168,15 +189,53 @@ TEST_F(MaintenanceReportTest, WithoutMessageServiceTheBoxEndsWithTheStatus) {
     EXPECT_TRUE(desktop->prompts.Boxes().front().text.ends_with("\r\nHRESULT 0x00000000 (0)"));
 }
 
-TEST_F(MaintenanceReportTest, WaitCursorShowsAllTheWhile) {
+TEST_F(MaintenanceReportTest, WaitCursorShowsFromTheFirstCallToTheBox) {
     Start(Device(simulator::kKrx8));
+    std::vector<int> depths;
+    const auto look = [&] { depths.push_back(desktop->cursorDepth); };
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetSoftwareInfo"}, look);
+    messageService->whileOpen = look;
     desktop->prompts.AnswerFileDialog([&](headless::CHeadlessFileDialog& dialog) {
-        EXPECT_EQ(desktop->cursorDepth, 1);
+        look();
         dialog.Accept(Path());
     });
     PressButton(kReportButton);
     EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_THAT(depths, ElementsAre(1, 1, 1));
     EXPECT_EQ(desktop->cursorDepth, 0);
+}
+
+TEST_F(MaintenanceReportTest, TimeIsThatBeforeTheDialog) {
+    Start(Device(simulator::kKrx8));
+    desktop->prompts.AnswerFileDialog([&](headless::CHeadlessFileDialog& dialog) {
+        desktop->now = {"21.11.2026", "00:01"};
+        dialog.Accept(Path());
+    });
+    PressButton(kReportButton);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_THAT(Content(Path()), HasSubstr("\r\nDATE: 20.11.2026\tTIME: 14:05\r\n"));
+}
+
+TEST_F(MaintenanceReportTest, ReportIsWholeWhenTheUserIsTold) {
+    Start(Device(simulator::kKrx8));
+    std::string content;
+    messageService->whileOpen = [&] { content = Content(Path()); };
+    Report(Path());
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_TRUE(content.ends_with("SRAM SIZE (MB) : 2\r\n")) << content;
+}
+
+TEST_F(MaintenanceReportTest, NextReportKeepsNothingOfTheLast) {
+    Start(Device(simulator::kKrx10));
+    const auto wrappers = interception.LiveWrappers();
+    Report(Path());
+    EXPECT_EQ(interception.LiveWrappers(), wrappers);
+    ConnectDevice(Device(simulator::kKrx20));
+    Report(Path());
+    EXPECT_EQ(interception.LiveWrappers(), wrappers);
+    EXPECT_EQ(TakeMessages().size(), 2u);
+    EXPECT_THAT(Content(Path()), HasSubstr("KRX-20 MAINTENANCE INFO\r\n"));
+    EXPECT_THAT(Content(Path()), Not(HasSubstr("DRIVER")));
 }
 
 }

@@ -60,8 +60,12 @@ TEST(ReportLinesTest, EmptyReportKeepsTheLinesThatEveryDeviceHas) {
 }
 
 TEST(ReportLinesTest, HeaderIsCutTo79Bytes) {
-    const std::string text = ReportText({}, std::string(100, 'H'), kNow);
-    EXPECT_EQ(text.substr(0, text.find('\r')), std::string(79, 'H'));
+    const auto header = [](std::size_t bytes) {
+        const std::string text = ReportText({}, std::string(bytes, 'H'), kNow);
+        return text.substr(0, text.find('\r'));
+    };
+    EXPECT_EQ(header(79), std::string(79, 'H'));
+    EXPECT_EQ(header(80), std::string(79, 'H'));
 }
 
 TEST(ReportLinesTest, DateOrTimeOfMoreThan19CharactersIsLeftOut) {
@@ -81,16 +85,16 @@ TEST(ReportLinesTest, CharactersOfADateCountNotItsBytes) {
 }
 
 TEST(ReportLinesTest, SizesDropTheirRemainder) {
-    const auto sizes = [](std::uint32_t bytes) {
+    const auto sizes = [](std::uint32_t flashBytes, std::uint32_t ramBytes) {
         MaintenanceReportRecord record;
-        record.flashSizeBytes = bytes;
+        record.flashSizeBytes = flashBytes;
+        record.ramSizeBytes = ramBytes;
         const std::string text = ReportText(record, "", kNow);
-        const std::size_t start = text.find("FLASH SIZE");
-        return text.substr(start, text.find('\r', start) - start);
+        return text.substr(text.find("FLASH SIZE"));
     };
-    EXPECT_EQ(sizes(1048575), "FLASH SIZE (MB) : 0");
-    EXPECT_EQ(sizes(1048576), "FLASH SIZE (MB) : 1");
-    EXPECT_EQ(sizes(4294967295), "FLASH SIZE (MB) : 4095");
+    EXPECT_EQ(sizes(1048575, 2097151), "FLASH SIZE (MB) : 0\r\nSRAM SIZE (MB) : 1\r\n");
+    EXPECT_EQ(sizes(1048576, 1048575), "FLASH SIZE (MB) : 1\r\nSRAM SIZE (MB) : 0\r\n");
+    EXPECT_EQ(sizes(4294967295, 4294967295), "FLASH SIZE (MB) : 4095\r\nSRAM SIZE (MB) : 4095\r\n");
 }
 
 TEST(ReportLinesTest, EachModelHasItsHeaderAndFileName) {
