@@ -16,6 +16,7 @@ struct UploadCase {
     int command;
     std::vector<FileFilter> filters;
     std::string defaultExtension;
+    std::string appended;  ///< to a name without extension
     std::string arguments; ///< after the path
     std::string failureText;
 };
@@ -77,6 +78,13 @@ TEST_P(EachCodeUploadTest, FailureIsReportedWithoutRefresh) {
     EXPECT_TRUE(IsEnabled(kUpdateButton));
 }
 
+TEST_P(EachCodeUploadTest, NameWithoutExtensionGetsTheFiltersFirstLetters) {
+    Start(GetParam().type);
+    Choose(GetParam().command, "C:\\code\\new");
+    EXPECT_THAT(device->calls, ElementsAre("UploadCode(C:\\code\\new" + GetParam().appended + ", " +
+                                           GetParam().arguments + ")"));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Commands, EachCodeUploadTest,
     testing::Values(UploadCase{"FPGA",
@@ -84,6 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
                                5,
                                {{"Fpga files (*.bin)", "*.bin"}, kAllFiles},
                                "Fpga files (*.bin)|*.bin|All files (*.*)|*.*|",
+                               ".Fpg",
                                "0, -1, 0",
                                "FPGA code updating failed"},
                     UploadCase{"Application",
@@ -91,6 +100,7 @@ INSTANTIATE_TEST_SUITE_P(
                                6,
                                {{"Application files (*.bin)", "*.bin"}, kAllFiles},
                                "Application files (*.bin)|*.bin|All files (*.*)|*.*|",
+                               ".App",
                                "1, -1, 1",
                                "Application code updating failed"},
                     UploadCase{"Rs232",
@@ -98,6 +108,7 @@ INSTANTIATE_TEST_SUITE_P(
                                7,
                                {{"Application files (*.bin)", "*.bin"}, kAllFiles},
                                "Application files (*.bin)|*.bin|All files (*.*)|*.*|",
+                               ".App",
                                "1, -1, 0",
                                "Application code updating failed"},
                     UploadCase{"Krx10Image",
@@ -105,6 +116,7 @@ INSTANTIATE_TEST_SUITE_P(
                                8,
                                {{"KRX-10 image (*.krx10)", "*.krx10"}, kAllFiles},
                                "KRX-10 image (*.krx10)|*.krx10|All files (*.*)|*.*|",
+                               ".KRX",
                                "-1, -1, -1",
                                "KRX-10 software image upload failed"},
                     UploadCase{"Krx20Image",
@@ -112,6 +124,7 @@ INSTANTIATE_TEST_SUITE_P(
                                9,
                                {{"KRX-20 image (*.krx20)", "*.krx20"}, kAllFiles},
                                "KRX-20 image (*.krx20)|*.krx20|All files (*.*)|*.*|",
+                               ".KRX",
                                "-1, -1, -1",
                                "KRX-20 software image upload failed"},
                     UploadCase{"Krx21Image",
@@ -119,6 +132,7 @@ INSTANTIATE_TEST_SUITE_P(
                                9,
                                {{"KRX-20 image (*.krx20)", "*.krx20"}, kAllFiles},
                                "KRX-20 image (*.krx20)|*.krx20|All files (*.*)|*.*|",
+                               ".KRX",
                                "-1, -1, -1",
                                "KRX-20 software image upload failed"}),
     [](const auto& upload) { return upload.param.name; });
@@ -155,12 +169,6 @@ TEST_F(CodeUploadTest, EmptyPathStopsLikeACancel) {
     EXPECT_TRUE(IsEnabled(kFileList));
 }
 
-TEST_F(CodeUploadTest, NameWithoutExtensionGetsTheFiltersFirstLetters) {
-    Start(simulator::kKrx8);
-    Choose(kUploadFpgaCode, "C:\\code\\new");
-    EXPECT_THAT(device->calls, ElementsAre("UploadCode(C:\\code\\new.Fpg, 0, -1, 0)"));
-}
-
 TEST_F(CodeUploadTest, DeviceIsLeftAloneByPollingEventsAndUserMeanwhile) {
     Start(simulator::kKrx8);
     device->answer = [this](const std::string&) {
@@ -180,21 +188,41 @@ TEST_F(CodeUploadTest, DeviceIsLeftAloneByPollingEventsAndUserMeanwhile) {
 TEST_F(CodeUploadTest, RefreshRunsWhilePollingIsSuspended) {
     Start(simulator::kKrx8);
     bool isPolling = true;
+    int lastCursorDepth = 0;
     faults->RunBefore({2, "ProgrammingDeviceControl.GetFileListing"},
                       [&] { isPolling = host.PollingEnabled(); });
+    faults->RunBefore({2, "ProductDetectionControl.SetPollingEnabled"},
+                      [&] { lastCursorDepth = desktop->cursorDepth; });
     Choose(kUploadFpgaCode);
     EXPECT_FALSE(isPolling);
+    EXPECT_EQ(lastCursorDepth, 1);
     EXPECT_TRUE(host.PollingEnabled());
 }
 
-TEST_F(CodeUploadTest, FlagIsSetAgainBeforeTheReport) {
+TEST_F(CodeUploadTest, PollingIsSuspendedBeforeRefreshesAreHeldBack) {
+    Start(simulator::kKrx8);
+    std::vector<bool> allowed;
+    const auto look = [&] { allowed.push_back(State().refreshAllowed); };
+    faults->RunAfter({1, "ProductDetectionControl.SetPollingEnabled"}, look);
+    faults->RunBefore({1, "ProgrammingDeviceControl.UploadCode"}, look);
+    faults->RunAfter({1, "ProgrammingDeviceControl.UploadCode"}, look);
+    faults->RunBefore({2, "ProductDetectionControl.SetPollingEnabled"}, look);
+    Choose(kUploadFpgaCode);
+    EXPECT_THAT(allowed, ElementsAre(true, false, false, true));
+}
+
+TEST_F(CodeUploadTest, FlagIsSetAgainBeforeTheReportAndPollingAfterIt) {
     Start(simulator::kKrx8);
     FailCall("UploadCode(C:\\code\\new.bin, 0, -1, 0)");
-    bool isAllowed = false;
-    messageService->whileOpen = [&] { isAllowed = State().refreshAllowed; };
+    messageService->whileOpen = [&] {
+        EXPECT_TRUE(State().refreshAllowed);
+        EXPECT_FALSE(host.PollingEnabled());
+        EXPECT_FALSE(IsEnabled(kUpdateButton));
+        EXPECT_EQ(desktop->cursorDepth, 1);
+    };
     Choose(kUploadFpgaCode);
-    EXPECT_TRUE(isAllowed);
     EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_TRUE(host.PollingEnabled());
 }
 
 TEST_F(CodeUploadTest, FailedUploadLeavesDetailsDisabled) {

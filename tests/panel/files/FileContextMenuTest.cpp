@@ -77,6 +77,28 @@ TEST_F(FileContextMenuTest, StoragesThatCannotBeAskedForCountSilentlyAsNone) {
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }
 
+TEST_F(FileContextMenuTest, CountAboveZeroIsStorage) {
+    Start();
+    for (const std::int32_t count : {-1, 0}) {
+        device->toldStorages = count;
+        EXPECT_THAT(OpenMenu(), ElementsAre(1, 2, 0, 9, 0, 10)) << count;
+    }
+    for (const std::int32_t count : {1, 2}) {
+        device->toldStorages = count;
+        EXPECT_THAT(OpenMenu(), ElementsAre(1, 2, 0, 4, 0, 9, 0, 10)) << count;
+    }
+}
+
+TEST_F(FileContextMenuTest, FilesOfDifferentLocationsCannotBeMoved) {
+    simulator::DeviceDescription description = WithCard(simulator::kKrx20);
+    description.files[1].location = simulator::kInRam;
+    Start(description);
+    SelectRows({0, 1});
+    EXPECT_THAT(OpenMenu(), ElementsAre(1, 2, 0, 9, 0, 10));
+    SelectRows({1});
+    EXPECT_THAT(OpenMenu(1), ElementsAre(1, 2, 0, 3, 4, 0, 9, 0, 10));
+}
+
 TEST_F(FileContextMenuTest, OutsideNormalModeAKrx10OffersItsImageAlone) {
     simulator::DeviceDescription description = HealthyDevice(simulator::kKrx10);
     description.mode = simulator::kServiceMode;

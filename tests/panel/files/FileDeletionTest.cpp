@@ -90,6 +90,29 @@ TEST_F(FileDeletionTest, QuestionNamesTheMarkedRowWhateverIsSelected) {
     EXPECT_THAT(device->calls, ElementsAre("DeleteFile(21, 2)"));
 }
 
+TEST_F(FileDeletionTest, QuestionWithoutAMarkNamesNothing) {
+    Start();
+    // A listing that ends early leaves rows, but neither selection nor mark.
+    faults->Fail({6, "FileInfo.GetSize"});
+    RaiseState(7);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    ASSERT_EQ(View().GetSelectionMark(kFileList), -1);
+    View().SelectRow(kFileList, 1, true);
+    Delete();
+    EXPECT_THAT(TakeMessages(), ElementsAre(Question("Are you sure you want to delete ''?")));
+    EXPECT_THAT(device->calls, ElementsAre("DeleteFile(21, 2)"));
+}
+
+TEST_F(FileDeletionTest, LargeIdIsDeletedByItsLowSixteenBits) {
+    simulator::DeviceDescription description = HealthyDevice(simulator::kKrx20);
+    description.files = {File("a.fia", 22, 70000), File("b.fia", 22, 5), File("c.fia", 22, 6)};
+    Start(description);
+    SelectRows({0, 1});
+    Delete();
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_THAT(device->calls, ElementsAre("DeleteFile(22, 5)", "DeleteFile(22, 4464)"));
+}
+
 TEST_F(FileDeletionTest, LongNameIsCutTo199UnitsOfTheQuestion) {
     simulator::DeviceDescription description = HealthyDevice(simulator::kKrx20);
     description.files = {File(std::string(300, 'x'), 19, 4)};
@@ -97,6 +120,22 @@ TEST_F(FileDeletionTest, LongNameIsCutTo199UnitsOfTheQuestion) {
     Delete(kNo);
     EXPECT_THAT(TakeMessages(),
                 ElementsAre(Question("Are you sure you want to delete '" + std::string(166, 'x'))));
+}
+
+TEST_F(FileDeletionTest, NameIsCutTo260BytesInTheQuestion) {
+    const auto wrenches = [](int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i) {
+            text += "\xF0\x9F\x94\xA7";
+        }
+        return text;
+    };
+    Start();
+    SelectRows({1});
+    View().SetCell(kFileList, 1, 0, wrenches(70));
+    Delete(kNo);
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(Question("Are you sure you want to delete '" + wrenches(65) + "'?")));
 }
 
 TEST_F(FileDeletionTest, WithoutSelectionNothingIsAsked) {
@@ -134,18 +173,32 @@ TEST_P(DeclinedDeletionTest, AnythingButYesDeletesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(Answers, DeclinedDeletionTest, testing::Values(7, 2, 1, 0, -1));
 
-TEST_F(FileDeletionTest, WaitCursorShowsFromTheAnswerOn) {
+class DeletionCursorTest : public FileDeletionTest,
+                           public testing::WithParamInterface<std::vector<int>> {};
+
+TEST_P(DeletionCursorTest, WaitCursorShowsFromTheAnswerUntilTheFilesAreListed) {
     Start();
-    SelectRows({1});
+    SelectRows(GetParam());
     std::vector<int> depths;
-    messageService->whileOpen = [&] { depths.push_back(desktop->cursorDepth); };
+    const auto look = [&] { depths.push_back(desktop->cursorDepth); };
+    messageService->whileOpen = look;
     device->answer = [&](const std::string&) {
-        depths.push_back(desktop->cursorDepth);
-        return contract::kSuccess;
+        look();
+        return contract::kUnspecifiedFailure;
     };
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetFreeResources"}, look);
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetFileListing"}, look);
     Delete();
-    EXPECT_THAT(depths, ElementsAre(0, 1));
+    EXPECT_EQ(TakeMessages().size(), 2u) << "the question and a report";
+    EXPECT_THAT(depths, ElementsAre(0, 1, 1, 1, 1));
+    EXPECT_EQ(desktop->cursorDepth, 0);
 }
+
+INSTANTIATE_TEST_SUITE_P(, DeletionCursorTest,
+                         testing::Values(std::vector{1}, std::vector{0, 1, 2}),
+                         [](const auto& tested) {
+                             return tested.param.size() == 1 ? "OfOneFile" : "OfAllFiles";
+                         });
 
 TEST_F(FileDeletionTest, PollingAndRefreshGoOnMeanwhile) {
     Start();

@@ -53,6 +53,36 @@ TEST_F(FileMoveTest, MixedTypesAreMovedAsTypeZero) {
     EXPECT_THAT(device->calls, ElementsAre("MoveFile(0, 1, 2, 0)", "MoveFile(0, 4, 2, 0)"));
 }
 
+TEST_F(FileMoveTest, LargeIdIsMovedByItsLowSixteenBits) {
+    simulator::DeviceDescription description = HealthyDevice(simulator::kKrx20);
+    description.files = {File("large.fia", 22, 70000)};
+    description.files.front().location = simulator::kOnPcCard;
+    ConnectDevice(description);
+    Move(kMoveToFlash);
+    EXPECT_THAT(device->calls, ElementsAre("MoveFile(22, 4464, 2, 0)"));
+}
+
+TEST_F(FileMoveTest, LongNameIsFoundAgainByItsFirst256Bytes) {
+    const std::string name(300, 'n');
+    simulator::DeviceDescription description = HealthyDevice(simulator::kKrx20);
+    description.files = {File("a.fia", 22, 1), File(name, 22, 2)};
+    description.pcCard.emplace();
+    ConnectDevice(description);
+    SelectRows({1});
+    View().SetCell(kFileList, 1, 0, name);
+    Move(kMoveToExternalStorage);
+    EXPECT_THAT(View().GetSelectedRows(kFileList), ElementsAre(1));
+}
+
+TEST_F(FileMoveTest, McuSoftwareOfAKrx8IsMovedToFlash) {
+    simulator::DeviceDescription description = HealthyDevice(simulator::kKrx8);
+    description.files = {File("mcu.fia", 22, 7)};
+    description.files.front().location = simulator::kInRam;
+    ConnectDevice(description);
+    Move(kMoveToFlash);
+    EXPECT_THAT(device->calls, ElementsAre("MoveFile(22, 7, 2, 0)"));
+}
+
 TEST_F(FileMoveTest, FailureIsReportedOnceAndEndsTheMove) {
     SelectRows({0, 1, 2});
     FailCall("MoveFile(22, 2, 2, 0)", Status::FromBits(0x80070070), "flash memory is full");
@@ -78,6 +108,19 @@ TEST_F(FileMoveTest, ControlsAreDisabledAndTheCursorWaitsMeanwhile) {
     Move(kMoveToFlash);
     EXPECT_TRUE(IsEnabled(kFileList));
     EXPECT_TRUE(IsEnabled(kUpdateButton));
+}
+
+TEST_F(FileMoveTest, WaitCursorShowsUntilTheFilesAreListed) {
+    SelectRows({0});
+    std::vector<int> depths;
+    const auto look = [&] { depths.push_back(desktop->cursorDepth); };
+    messageService->whileOpen = look;
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetFreeResources"}, look);
+    faults->RunBefore({2, "ProgrammingDeviceControl.GetFileListing"}, look);
+    FailCall("MoveFile(22, 1, 2, 0)");
+    Move(kMoveToFlash);
+    EXPECT_EQ(TakeMessages().size(), 1u);
+    EXPECT_THAT(depths, ElementsAre(1, 1, 1));
 }
 
 TEST_F(FileMoveTest, ListRefilledInsideAMoveDoesNotChangeWhatIsMoved) {

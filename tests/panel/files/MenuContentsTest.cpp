@@ -68,9 +68,15 @@ TEST(MenuContentsTest, PhoneFilesAreForNormalModeOrTheKrx8Family) {
 TEST(MenuContentsTest, Krx8MovesMcuSoftwareOutOfRamOnly) {
     EXPECT_THAT(Menu(DeviceType::Krx8, DeviceMode::Normal, Selected(22, 1)),
                 ElementsAre(1, 2, 0, 3, 0, 5, 6, 7, 0, 10));
+    EXPECT_THAT(Menu(DeviceType::Krx8C, DeviceMode::Service, Selected(22, 1, 2), true),
+                ElementsAre(1, 2, 0, 3, 0, 5, 6, 7, 0, 10));
     EXPECT_THAT(Menu(DeviceType::Krx8, DeviceMode::Normal, Selected(22, 2), true),
                 ElementsAre(1, 2, 0, 5, 6, 7, 0, 10));
     EXPECT_THAT(Menu(DeviceType::Krx8C, DeviceMode::Normal, Selected(21, 1), true),
+                ElementsAre(1, 2, 0, 5, 6, 7, 0, 10));
+    EXPECT_THAT(Menu(DeviceType::Krx8, DeviceMode::Normal, Selected(0, 1, 2), true),
+                ElementsAre(1, 2, 0, 5, 6, 7, 0, 10));
+    EXPECT_THAT(Menu(DeviceType::Krx8, DeviceMode::Normal, Selected(22, 0, 2), true),
                 ElementsAre(1, 2, 0, 5, 6, 7, 0, 10));
 }
 
