@@ -149,6 +149,20 @@ TEST_F(ListInputTest, RightClickReportsScreenCoordinates) {
     EXPECT_TRUE(list.y < point.y && point.y < list.Bottom()) << point.y;
 }
 
+TEST_F(ListInputTest, RightClicksReportTheRowsTheyFellOn) {
+    const int rowHeight =
+        View().GetRowPosition(kManyList, 1)->y - View().GetRowPosition(kManyList, 0)->y;
+    for (const int row : {0, 3, 1}) {
+        EXPECT_TRUE(User().RightClickRow(kManyList, row));
+        const panel::Point corner =
+            View().ToScreen(kManyList, *View().GetRowPosition(kManyList, row));
+        const panel::Point point = m_handler.rightClicks.back();
+        EXPECT_GT(point.x, corner.x) << row;
+        EXPECT_GE(point.y, corner.y) << row;
+        EXPECT_LT(point.y, corner.y + rowHeight) << row;
+    }
+}
+
 TEST_F(ListInputTest, RightClickBelowTheRowsIsReported) {
     View().RemoveAllRows(kManyList);
     EXPECT_TRUE(User().RightClickRow(kManyList, kNoRow));

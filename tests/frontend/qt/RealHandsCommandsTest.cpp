@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QScrollBar>
 #include <QTest>
 #include <gmock/gmock.h>
 
@@ -106,6 +107,19 @@ TEST_F(RealHandsCommandsTest, MenuKeyOpensTheMenuAtTheFocusedRow) {
     Rows all(kFiles);
     std::iota(all.begin(), all.end(), 0);
     EXPECT_TRUE(WaitForSelection(all));
+}
+
+TEST_F(RealHandsCommandsTest, MenuKeyOpensTheMenuInTheCornerOfAListScrolledAside) {
+    m_hands.Click(*List().viewport(), PlaceOf(3));
+    ASSERT_TRUE(WaitForSelection({3}));
+    List().setColumnWidth(0, 600);
+    List().horizontalScrollBar()->setValue(40);
+    m_prompts.Expect<QMenu>([this](QMenu& menu) {
+        EXPECT_EQ(menu.pos(), List().mapToGlobal(QPoint(2, 3)));
+        m_hands.PressKey("Escape");
+    });
+    m_hands.PressKey("Menu");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_prompts.GetOutstanding() == 0 && IsIdle(); }));
 }
 
 TEST_F(RealHandsCommandsTest, DeleteKeyDeletesTheSelectedFiles) {

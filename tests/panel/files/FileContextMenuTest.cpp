@@ -226,6 +226,17 @@ TEST_F(FileContextMenuTest, RowOutOfSightOpensTheMenuInTheCorner) {
     EXPECT_EQ(OpenByKeyboard(), InList(2, 3));
 }
 
+TEST_F(FileContextMenuTest, RowOnTheEdgeOfTheListIsOutOfSight) {
+    Start();
+    View().ClickRow(kFileList, 0);
+    View().Move(kFileList, {10, 10, 1, 21});
+    EXPECT_EQ(OpenByKeyboard(), InList(0, 20));
+    View().Move(kFileList, {10, 10, 1, 20});
+    EXPECT_EQ(OpenByKeyboard(), InList(2, 3));
+    View().Move(kFileList, {10, 10, 0, 21});
+    EXPECT_EQ(OpenByKeyboard(), InList(2, 3));
+}
+
 // Failures
 
 TEST_F(FileContextMenuTest, MenuThatCannotBeMadeIsReportedWithTheSystemsError) {
