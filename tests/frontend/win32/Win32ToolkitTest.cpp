@@ -1,5 +1,6 @@
 // What only the toolkit of the system's own windows can get wrong.
 
+#include "frontend/win32/Text.h"
 #include "frontend/win32/Win32Panel.h"
 #include "frontend/win32/Win32View.h"
 #include "tests/frontend/conformance/RecordingHandler.h"
@@ -110,6 +111,20 @@ TEST_F(Win32ToolkitTest, OpenDialogHasTheSystemsTitleTheFirstFilterAndNoReadOnly
     EXPECT_EQ(title, "Open");
     EXPECT_EQ(filter, 0);
     EXPECT_FALSE(offersReadOnly);
+}
+
+TEST_F(Win32ToolkitTest, LocalTimeIsInTheUsersShortFormats) {
+    const auto read = [] {
+        wchar_t date[80] = {};
+        wchar_t time[80] = {};
+        GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, nullptr, nullptr, date, 80);
+        GetTimeFormatW(LOCALE_USER_DEFAULT, 0, nullptr, nullptr, time, 80);
+        return std::pair(win32::FromWide(date), win32::FromWide(time));
+    };
+    const auto before = read();
+    const panel::LocalTime now = Toolkit().GetLocalTime();
+    const std::pair shown(now.date, now.time);
+    EXPECT_TRUE(shown == before || shown == read()) << now.date << ' ' << now.time;
 }
 
 TEST_F(Win32ToolkitTest, ComponentFolderIsThatOfTheProgram) {

@@ -73,6 +73,37 @@ TEST_F(Win32ViewTest, ListOfSelfTestsShowsItsOneSelectionAlwaysAndSortsNothing) 
     EXPECT_TRUE(style & LVS_NOSORTHEADER);
 }
 
+TEST_F(Win32ViewTest, ListShowsItsSelectionWithoutFocusUnderHeadingsThatCannotBeClicked) {
+    m_view->InsertColumn(kList, 0, {"Name", 100, panel::Alignment::Left});
+    const auto style = static_cast<DWORD>(GetWindowLongPtrW(Control(kList), GWL_STYLE));
+    EXPECT_EQ(style & LVS_TYPEMASK, static_cast<DWORD>(LVS_REPORT));
+    EXPECT_TRUE(style & LVS_SHOWSELALWAYS);
+    EXPECT_FALSE(style & LVS_SINGLESEL);
+    EXPECT_FALSE(style & (LVS_SORTASCENDING | LVS_SORTDESCENDING));
+    const auto header = reinterpret_cast<HWND>(SendMessageW(Control(kList), LVM_GETHEADER, 0, 0));
+    ASSERT_TRUE(IsWindow(header));
+    EXPECT_FALSE(GetWindowLongPtrW(header, GWL_STYLE) & HDS_BUTTONS);
+}
+
+TEST_F(Win32ViewTest, ListHasNoShortcutThatSelectsAll) {
+    for (int row = 0; row < 3; ++row) {
+        m_view->InsertRow(kList, row, "row");
+    }
+    m_view->SelectRow(kList, 1, true);
+    m_view->SetFocus(kList);
+    PressKey('A', VK_CONTROL);
+    EXPECT_EQ(m_handler.events, (Events{"key 17 in 303", "key 65 in 303"}));
+    EXPECT_EQ(m_view->GetSelectedRows(kList), std::vector<int>{1});
+}
+
+TEST_F(Win32ViewTest, KeyNotificationIsAnsweredWithZero) {
+    NMLVKEYDOWN key{};
+    key.hdr = {Control(kList), static_cast<UINT_PTR>(kList), static_cast<UINT>(LVN_KEYDOWN)};
+    key.wVKey = VK_DELETE;
+    EXPECT_EQ(SendMessageW(ViewWindow(), WM_NOTIFY, kList, reinterpret_cast<LPARAM>(&key)), 0);
+    EXPECT_EQ(m_handler.events, Events{"key 46 in 303"});
+}
+
 TEST_F(Win32ViewTest, DestroyedViewLeavesNoWindow) {
     const HWND window = ViewWindow();
     m_view.reset();
