@@ -1,11 +1,11 @@
 #include "frontend/qt/AddressPart.h"
 
+#include "frontend/qt/DigitsValidator.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QRegularExpression>
-#include <QRegularExpressionValidator>
 
 #include <utility>
 
@@ -28,8 +28,7 @@ CAddressPart::CAddressPart(CAddressPart* previous, QWidget* parent)
     setMaxLength(kMostDigits);
     setAcceptDrops(false);
     setContextMenuPolicy(Qt::NoContextMenu);
-    const QRegularExpression digits(QStringLiteral("[0-9]*"));
-    setValidator(new QRegularExpressionValidator(digits, this));
+    setValidator(new CDigitsValidator(this));
     connect(this, &QLineEdit::textEdited, this, [this] { TakeEdit(); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "frontend/qt/AddressField.h"
 #include "frontend/qt/CommandEvent.h"
+#include "frontend/qt/DigitsValidator.h"
 #include "frontend/qt/EditField.h"
 #include "frontend/qt/Font.h"
 #include "frontend/qt/GroupBox.h"
@@ -16,8 +17,6 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QRegularExpression>
-#include <QRegularExpressionValidator>
 #include <QVariant>
 
 #include <iterator>
@@ -75,8 +74,7 @@ QWidget* BuildTextField(const ControlTemplate& control, const Surroundings& arou
 
 QWidget* BuildNumberField(const ControlTemplate& control, const Surroundings& around) {
     QLineEdit* const field = BuildField(control, around);
-    const QRegularExpression digits(QStringLiteral("[0-9]*"));
-    field->setValidator(new QRegularExpressionValidator(digits, field));
+    field->setValidator(new CDigitsValidator(field));
     return field;
 }
 
