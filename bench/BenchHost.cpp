@@ -44,6 +44,10 @@ simulator::DeviceDescription DeviceWithFiles(std::int64_t count, Device kind) {
         file.generation = static_cast<std::uint32_t>(3 + i % 3);
         device.files.push_back(std::move(file));
     }
+    if (count > 0) {
+        // Without this file the panel offers an update at each refresh, and waits for the answer.
+        device.files.front().name = simulator::kVersionFileName;
+    }
     return device;
 }
 
