@@ -3,10 +3,13 @@
 #include "bench/Require.h"
 #include "contract/device/SelfTestResults.h"
 #include "contract/host/ExtConnectionEvents.h"
+#include "contract/host/Subsystem.h"
+#include "contract/host/SubsystemAccess.h"
 #include "panel/control/KRX8Maintenance.h"
 #include "simulator/Device.h"
 
 #include <string>
+#include <utility>
 
 namespace bench {
 
@@ -52,8 +55,8 @@ simulator::DeviceDescription DeviceWithFiles(std::int64_t count, Device kind) {
 }
 
 CBenchHost::CBenchHost(std::unique_ptr<panel::IToolkit> toolkit, void* nativeParent,
-                       const simulator::DeviceDescription& device)
-    : m_host(), m_panel(panel::CKRX8Maintenance::Create(std::move(toolkit))) {
+                       const simulator::DeviceDescription& device, simulator::KnobOptions knobs)
+    : m_host(std::move(knobs)), m_panel(panel::CKRX8Maintenance::Create(std::move(toolkit))) {
     m_host.SetHostViewControl(std::make_shared<CHostView>());
     m_host.InsertDevice(simulator::CDevice::Create(device));
     Require(m_panel->SetContext(m_host.Context()), kNoPanel);
@@ -66,6 +69,16 @@ CBenchHost::~CBenchHost() { m_panel->DestroyView(); }
 
 void CBenchHost::Refresh() {
     m_host.RaiseConnectionState(contract::kSuccess, contract::kConnectionDeviceReady);
+}
+
+std::shared_ptr<contract::IProgrammingDeviceSubsystem> CBenchHost::Device() const {
+    std::shared_ptr<contract::ISubsystem> subsystem;
+    std::shared_ptr<contract::IProgrammingDeviceSubsystem> device;
+    Require(
+        m_host.SubsystemAccess()->GetSubsystem(contract::kProgrammingDeviceSubsystem, subsystem),
+        kNoPanel);
+    Require(subsystem->QueryProgrammingDeviceSubsystem(device), kNoPanel);
+    return device;
 }
 
 void CBenchHost::RaiseMessage(std::uint32_t done, std::uint32_t total) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/device/ProgrammingDeviceSubsystem.h"
 #include "contract/host/HostViewControl.h"
 #include "contract/panel/Panel.h"
 #include "panel/control/Toolkit.h"
@@ -28,7 +29,7 @@ class CBenchHost {
 public:
     /// `nativeParent` as the toolkit needs it.
     CBenchHost(std::unique_ptr<panel::IToolkit> toolkit, void* nativeParent,
-               const simulator::DeviceDescription& device);
+               const simulator::DeviceDescription& device, simulator::KnobOptions knobs = {});
     ~CBenchHost();
     CBenchHost(const CBenchHost&) = delete;
     CBenchHost& operator=(const CBenchHost&) = delete;
@@ -40,7 +41,8 @@ public:
     /// One message without a percentage.
     void RaiseNotice(const std::string& text);
     contract::IPanel& Panel() { return *m_panel; }
-    simulator::CHost& Host() { return m_host; }
+    /// The device as the panel is handed it.
+    std::shared_ptr<contract::IProgrammingDeviceSubsystem> Device() const;
 
 private:
     simulator::CHost m_host;

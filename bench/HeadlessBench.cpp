@@ -1,7 +1,5 @@
 #include "bench/BareDevice.h"
 #include "bench/BenchHost.h"
-#include "contract/host/Subsystem.h"
-#include "contract/host/SubsystemAccess.h"
 #include "frontend/headless/HeadlessToolkit.h"
 #include "frontend/headless/HeadlessView.h"
 #include "panel/control/PanelTemplate.h"
@@ -37,16 +35,7 @@ struct HeadlessBench {
 
 void DeviceCalls(benchmark::State& state, bench::Device kind, bench::Caller caller) {
     HeadlessBench bench(state.range(0), kind);
-    std::shared_ptr<contract::ISubsystem> subsystem;
-    std::shared_ptr<contract::IProgrammingDeviceSubsystem> device;
-    if (bench.host.Host()
-            .SubsystemAccess()
-            ->GetSubsystem(contract::kProgrammingDeviceSubsystem, subsystem)
-            .IsFailure() ||
-        subsystem->QueryProgrammingDeviceSubsystem(device).IsFailure()) {
-        state.SkipWithError("no subsystem");
-        return;
-    }
+    const auto device = bench.host.Device();
     for (auto _ : state) {
         benchmark::DoNotOptimize(bench::ReadFiles(*device, caller));
     }
