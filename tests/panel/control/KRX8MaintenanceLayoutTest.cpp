@@ -98,4 +98,12 @@ TEST_F(KRX8MaintenanceLayoutTest, LengthsAreCutToSixteenBits) {
     EXPECT_EQ(View().GetClientSize(), (Size{0, 0}));
 }
 
+TEST_F(KRX8MaintenanceLayoutTest, LengthsToldByTheViewAreCutToSixteenBits) {
+    panel->OnResized({66236, 70000});
+    EXPECT_EQ(View().GetRectangle(9), (Rectangle{65535 - 11 - 75, 65535 - 34, 75, 23}));
+    const auto placement = Placement();
+    panel->OnResized({-1, -1});
+    EXPECT_EQ(Placement(), placement);
+}
+
 }

@@ -50,6 +50,11 @@ TEST_F(OutputAreaProgressTest, TaskProgressOfNothingEmptiesTheBar) {
     EXPECT_EQ(Field(254), "Idle  0.0%");
 }
 
+TEST_F(OutputAreaProgressTest, TaskProgressAtItsStartSetsTheRange) {
+    ShowProgress("Uploading", 0, 5);
+    EXPECT_EQ(View().Progress(253), (headless::HeadlessProgress{5, 0}));
+}
+
 struct TaskStep {
     std::optional<std::string_view> label;
     std::int32_t position;

@@ -143,6 +143,12 @@ TEST_F(OutputAreaTest, RepeatedPercentageIsWrittenOnce) {
     EXPECT_THAT(Log(), ElementsAre("Deleting files 33%"));
 }
 
+TEST_F(OutputAreaTest, RepeatedPercentageInAnotherCaseIsWritten) {
+    Append("Deleting files", 1, 3);
+    Append("deleting files", 1, 3);
+    EXPECT_THAT(Log(), ElementsAre("Deleting files 33%", "deleting files 33%"));
+}
+
 TEST_F(OutputAreaTest, ChangedPercentageOrTextIsWritten) {
     Append("Deleting files", 1, 3);
     Append("Deleting files", 2, 3);

@@ -89,6 +89,7 @@ TEST(PanelTemplateTest, LabelsStandTopToBottomBesideTheirFields) {
         const ControlTemplate& field = Control(pair.field);
         EXPECT_STREQ(label.text, pair.text);
         EXPECT_EQ(label.kind, Label);
+        EXPECT_STREQ(field.text, "");
         EXPECT_EQ(field.kind, pair.kind);
         EXPECT_EQ(label.state, Enabled);
         EXPECT_EQ(label.rectangle.x, 14);

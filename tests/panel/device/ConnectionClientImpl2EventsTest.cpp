@@ -133,6 +133,22 @@ TEST_F(ConnectionClientImpl2EventsTest, ReferencesCanBeReadWhileTheHostIsCalled)
     }
 }
 
+/// Nobody finds a connection that has not been asked for its state yet.
+TEST_F(ConnectionClientImpl2EventsTest, ReferencesAreReadOnceTheStateIsKnown) {
+    const auto faults = std::make_shared<interception::CFaultInjector>();
+    interception::CInterception interception(faults);
+    std::future<bool> reader;
+    auto outcome = std::future_status::ready;
+    faults->RunBefore({1, "Connection.QueryConnectionState"}, [&] {
+        reader = std::async(std::launch::async, [this] { return client->Connection() != nullptr; });
+        outcome = reader.wait_for(std::chrono::milliseconds(100));
+    });
+    EXPECT_EQ(client->SetConnection(interception.Wrap(host.Connection())), contract::kSuccess);
+    EXPECT_EQ(outcome, std::future_status::timeout);
+    EXPECT_TRUE(reader.get());
+    EXPECT_EQ(client->SetConnection(nullptr), contract::kSuccess);
+}
+
 TEST_F(ConnectionClientImpl2EventsTest, GeneralHookComesBeforeTheReaction) {
     Attach();
     host.RaiseConnectionState(contract::kSuccess, 7);
