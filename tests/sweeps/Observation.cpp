@@ -25,6 +25,7 @@ public:
             Add(id, isEnabled ? " is enabled" : " is disabled");
         }
         Add("Close is ", picture.isCloseVisible ? "visible" : "hidden");
+        Add("progress is ", picture.isProgressVisible ? "visible" : "hidden");
         for (std::size_t row = 0; row < picture.rows.size(); ++row) {
             std::string cells;
             for (const std::string& cell : picture.rows[row].cells) {

@@ -39,6 +39,8 @@ struct Picture {
     std::map<panel::ControlId, std::string> texts;
     std::map<panel::ControlId, bool> enabled;
     bool isCloseVisible = true;
+    /// The progress bar or its label; nothing shows them.
+    bool isProgressVisible = false;
     std::vector<FileRow> rows;
     std::vector<int> selection;
     int mark = -1;

@@ -134,6 +134,8 @@ Picture CSweepPanel::LookAtView() {
     }
     picture.enabled = LookWhatIsEnabled();
     picture.isCloseVisible = view.IsVisible(panel::kCloseButton);
+    picture.isProgressVisible =
+        view.IsVisible(panel::kProgressBar) || view.IsVisible(panel::kTaskLabel);
     for (int row = 0; row < RowCount(); ++row) {
         picture.rows.push_back({Row(row), view.GetRowKey(panel::kFileList, row)});
     }

@@ -170,6 +170,8 @@ void CSweepPanel::AnswerFileDialog(CHeadlessFileDialog& dialog) {
 void CSweepPanel::OnServiceBoxOpen() {
     constexpr std::uint32_t kQuestion = 0x24;
     const bool isQuestion = messageService->shown.back().style == kQuestion;
+    EXPECT_EQ(messageService->messages.back().owner, 0);
+    EXPECT_EQ(messageService->messages.back().showFlag, 1);
     OnBoxOpen();
     if (isQuestion && m_answers.question != 0) {
         messageService->answers.push_back(m_answers.question);
