@@ -50,6 +50,18 @@ TEST_F(FieldsTest, DisabledEditFieldCannotBeTypedInto) {
     EXPECT_EQ(View().GetText(kEdit), "");
 }
 
+TEST_F(FieldsTest, ReadOnlyTextsKeepWhatIsThereWhateverIsTyped) {
+    View().SetText(kNumber, "1048576");
+    View().AppendLog(kLog, "line\r\n");
+    for (const panel::ControlId id : {kField, kNumber, kLog}) {
+        User().TypeText(id, "7");
+    }
+    EXPECT_EQ(User().ShownText(kField), "initial");
+    EXPECT_EQ(User().ShownText(kNumber), "1048576");
+    EXPECT_EQ(User().ShownText(kLog), "line\r\n");
+    EXPECT_EQ(m_handler.events, Events{});
+}
+
 // Check box
 
 TEST_F(FieldsTest, CheckBoxIsClearAtFirst) {

@@ -62,6 +62,19 @@ TEST_F(LogViewTest, AppendFollowsTheEndAndDropsTheSelection) {
     EXPECT_FALSE(m_log.textCursor().hasSelection());
 }
 
+TEST_F(LogViewTest, AppendKeepsTheSelectedText) {
+    AppendLines(2);
+    m_log.selectAll();
+    m_log.Append("third\r\n");
+    m_log.grab();
+    EXPECT_EQ(m_log.GetText(), "line 0\r\nline 1\r\nthird\r\n");
+}
+
+TEST_F(LogViewTest, ScrollBarIsThereWithoutAnyText) {
+    EXPECT_TRUE(m_log.verticalScrollBar()->isVisible());
+    EXPECT_FALSE(m_log.horizontalScrollBar()->isVisible());
+}
+
 TEST_F(LogViewTest, ResizeKeepsTheEndInSight) {
     AppendLines(100);
     m_log.resize(400, 300);

@@ -6,22 +6,41 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <set>
+#include <vector>
 
 namespace qttests {
 
 namespace {
 
-class CSilentHandler final : public panel::IDialogHandler {
+class CHandler final : public panel::IDialogHandler {
 public:
     void OnInit(panel::IView&) override {}
     void OnCommand(panel::ControlId) override {}
+    void OnHelp(std::uint32_t context) override { m_helpContexts.push_back(context); }
+
+    std::vector<std::uint32_t> m_helpContexts;
+};
+
+/// Notes the keys that come as far as a widget.
+class CKeyFilter final : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress) {
+            m_keys.push_back(static_cast<QKeyEvent*>(event)->key());
+        }
+        return false;
+    }
+
+    std::vector<int> m_keys;
 };
 
 class PanelWidgetsTest : public testing::Test {
@@ -33,7 +52,7 @@ protected:
 
     QWidget m_window;
     qt::CQtToolkit m_toolkit;
-    CSilentHandler m_handler;
+    CHandler m_handler;
     std::unique_ptr<panel::IView> m_view =
         m_toolkit.CreateView(panel::kPanelTemplate, &m_window, m_handler);
     CControlUser m_user;
@@ -132,6 +151,16 @@ TEST_F(PanelWidgetsTest, AccessibilityToolsKnowFieldsListAndLogByName) {
         ASSERT_NE(accessible, nullptr) << named.name;
         EXPECT_EQ(accessible->text(QAccessible::Name).toStdString(), named.name);
     }
+}
+
+TEST_F(PanelWidgetsTest, HelpKeyGoesNoFurtherThanThePanel) {
+    CKeyFilter host;
+    m_window.installEventFilter(&host);
+    QWidget* const field = m_user.FindWidget(panel::kSerialNumberField);
+    QTest::keyClick(field, Qt::Key_F1);
+    QTest::keyClick(field, Qt::Key_F2);
+    EXPECT_EQ(m_handler.m_helpContexts, std::vector<std::uint32_t>{panel::kSerialNumberField});
+    EXPECT_EQ(host.m_keys, std::vector<int>{Qt::Key_F2});
 }
 
 TEST_F(PanelWidgetsTest, KeyboardElsewhereInTheWindowKeepsTheFocusThere) {

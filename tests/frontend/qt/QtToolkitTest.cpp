@@ -81,6 +81,27 @@ TEST_F(QtToolkitTest, BoxShowsTheArrowWhileACommandWaits) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(QtToolkitTest, BoxIsModalAndHasNoOwner) {
+    QWidget window;
+    const auto view = m_toolkit.CreateView(kTemplate, &window, m_handler);
+    window.show();
+    m_prompts.Expect<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), nullptr);
+        EXPECT_EQ(box.windowModality(), Qt::ApplicationModal);
+        box.accept();
+    });
+    m_toolkit.ShowBox("text", "caption", 0x10);
+}
+
+TEST_F(QtToolkitTest, PopCursorGivesTheHostsCursorBack) {
+    QGuiApplication::setOverrideCursor(QCursor(Qt::SizeAllCursor));
+    m_toolkit.PushWaitCursor();
+    EXPECT_EQ(ShownCursor(), Qt::WaitCursor);
+    m_toolkit.PopCursor();
+    EXPECT_EQ(ShownCursor(), Qt::SizeAllCursor);
+    QGuiApplication::restoreOverrideCursor();
+}
+
 TEST_F(QtToolkitTest, PopCursorWithoutPushLeavesTheHostsCursor) {
     QGuiApplication::setOverrideCursor(QCursor(Qt::SizeAllCursor));
     m_toolkit.PopCursor();
