@@ -128,6 +128,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Count{2, 3, "Deleting files 66%"}, Count{3, 3, "Deleting files 100%"},
                     // A tenth is added before the fraction is dropped.
                     Count{9989, 10000, "Deleting files 99%"},
+                    Count{9991, 10000, "Deleting files 100%"},
                     Count{9995, 10000, "Deleting files 100%"}, Count{7, 2, "Deleting files 350%"},
                     Count{2147483648, kLargest, "Deleting files 50%"},
                     Count{kLargest, kLargest, "Deleting files 100%"},

@@ -47,7 +47,9 @@ TEST(PanelLayoutTest, OnlyTheLogFollowsTheClientRectangle) {
     const auto placed = LayOut({1000, 700}, {900, 600});
     EXPECT_EQ(placed.at(kStatusLog), (Rectangle{26, 349, 900 - 22 - 26, 600 - 56 - 349}));
     EXPECT_EQ(placed.at(kProgressGroup), (Rectangle{12, 325, 1000 - 11 - 12, 700 - 45 - 325}));
-    EXPECT_EQ(placed.at(kHelpButton).y, 700 - 34);
+    EXPECT_EQ(placed.at(kFileGroup).width, 1000 - 11 - 250);
+    EXPECT_EQ(placed.at(kFileList).width, 1000 - 22 - 266);
+    EXPECT_EQ(placed.at(kHelpButton), (Rectangle{914, 700 - 34, 75, 23}));
 }
 
 TEST(PanelLayoutTest, ButtonsAreCappedAtSeventyFive) {
