@@ -24,7 +24,8 @@ CWin32View::CWin32View(const panel::DialogTemplate& dialogTemplate, HWND dialog,
             KeepCharactersWhole(GetDlgItem(dialog, control.id));
         } else if (control.kind == ControlKind::Log) {
             LeaveKeysToDialog(GetDlgItem(dialog, control.id));
-        } else if (IsList(control.kind)) {
+        } else if (control.kind == ControlKind::SingleSelectList) {
+            // The file list has no extended styles.
             CListControl(GetDlgItem(dialog, control.id)).UnfoldCutTexts();
         }
         m_window->Font().Fit(GetDlgItem(dialog, control.id), control.kind);

@@ -118,6 +118,11 @@ TEST_F(FittingFontTest, ButtonsOfThePanelShowTheirWholeTexts) {
     }
 }
 
+TEST_F(FittingFontTest, CutTextsOfASingleSelectionListUnfoldUnderTheMouse) {
+    Show(kTemplate);
+    EXPECT_TRUE(SendMessageW(Control(kList), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_LABELTIP);
+}
+
 TEST_F(FittingFontTest, HeadingsFitTheirColumns) {
     Show(kTemplate);
     m_view->InsertColumn(kList, 0, {"File ID", 44, panel::Alignment::Right});

@@ -59,10 +59,6 @@ TEST_F(Win32ViewTest, ViewIsAVisibleChildOfTheHostsWindow) {
     EXPECT_TRUE(GetWindowLongPtrW(ViewWindow(), GWL_EXSTYLE) & WS_EX_CONTROLPARENT);
 }
 
-TEST_F(Win32ViewTest, CutTextsOfAListUnfoldUnderTheMouse) {
-    EXPECT_TRUE(SendMessageW(Control(kList), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_LABELTIP);
-}
-
 TEST_F(Win32ViewTest, ListOfSelfTestsShowsItsOneSelectionAlwaysAndSortsNothing) {
     const auto view = m_toolkit.CreateView(panel::kSelfTestTemplate, m_host->Get(), m_handler);
     const HWND window = dynamic_cast<win32::CWin32View&>(*view).GetWindow();
