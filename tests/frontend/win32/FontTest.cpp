@@ -13,16 +13,33 @@ TEST(FontTest, HeightGrowsWithTheDotsOfTheScreen) {
     EXPECT_STREQ(DescribeFont(96).lfFaceName, L"MS Shell Dlg");
 }
 
-TEST(FontTest, FontMadeHasTheHeightMeasured) {
-    const HFONT font = MakeFont();
+/// The font that views are made with, ready to be measured.
+class MadeFontTest : public testing::Test {
+protected:
+    ~MadeFontTest() override {
+        SelectObject(context, m_before);
+        DeleteDC(context);
+        DeleteObject(m_font);
+    }
+
     const HDC context = CreateCompatibleDC(nullptr);
-    const HGDIOBJ before = SelectObject(context, font);
+
+private:
+    const HFONT m_font = MakeFont();
+    const HGDIOBJ m_before = SelectObject(context, m_font);
+};
+
+TEST_F(MadeFontTest, HeightMeasuredIsThatOfACharacterWithItsLeading) {
     TEXTMETRICW metrics{};
     GetTextMetricsW(context, &metrics);
-    EXPECT_EQ(metrics.tmHeight + metrics.tmExternalLeading, MeasureFont().height);
-    SelectObject(context, before);
-    DeleteDC(context);
-    DeleteObject(font);
+    EXPECT_EQ(MeasureFont().height, metrics.tmHeight + metrics.tmExternalLeading);
+}
+
+TEST_F(MadeFontTest, WidthMeasuredIsThatOfTheAlphabetInBothCases) {
+    SIZE size{};
+    GetTextExtentPoint32W(context, L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz", 52,
+                          &size);
+    EXPECT_EQ(MeasureFont().alphabetWidth, size.cx);
 }
 
 }

@@ -54,6 +54,26 @@ TEST_F(Win32ToolkitTest, BoxKeepsTheHostsWindowFromBeingUsed) {
     EXPECT_TRUE(IsWindowEnabled(m_host));
 }
 
+TEST_F(Win32ToolkitTest, BoxHasNoOwner) {
+    HWND box = nullptr;
+    HWND owner = m_host;
+    m_driver.ExpectBox(1, [&] {
+        box = GetActiveWindow();
+        owner = ::GetWindow(box, GW_OWNER);
+    });
+    Toolkit().ShowBox("text", "caption", 0x10);
+    EXPECT_NE(box, m_host);
+    EXPECT_EQ(owner, nullptr);
+}
+
+TEST_F(Win32ToolkitTest, PopCursorGivesTheHostsCursorBack) {
+    SetCursor(LoadCursorW(nullptr, IDC_CROSS));
+    Toolkit().PushWaitCursor();
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_WAIT));
+    Toolkit().PopCursor();
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_CROSS));
+}
+
 TEST_F(Win32ToolkitTest, DialogStandsOverTheMiddleOfItsOwner) {
     POINT centre{};
     m_driver.ExpectDialog([&](conformance::IViewUser&) { centre = CentreOf(GetActiveWindow()); });
