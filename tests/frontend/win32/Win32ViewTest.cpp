@@ -28,13 +28,17 @@ constexpr panel::ControlId kOther = 302;
 constexpr panel::ControlId kList = 303;
 constexpr panel::ControlId kLog = 304;
 constexpr panel::ControlId kEdit = 305;
+constexpr panel::ControlId kSingleList = 306;
 
 constexpr panel::ControlTemplate kControls[] = {
-    {kButton, Button, "&Delete", {7, 7, 40, 14}},   {kOther, Button, "&Help", {54, 7, 40, 14}},
-    {kList, MultiSelectList, "", {7, 30, 100, 50}}, {kLog, Log, "", {7, 90, 100, 30}},
+    {kButton, Button, "&Delete", {7, 7, 40, 14}},
+    {kOther, Button, "&Help", {54, 7, 40, 14}},
+    {kList, MultiSelectList, "", {7, 30, 100, 50}},
+    {kLog, Log, "", {7, 90, 100, 30}},
     {kEdit, EditField, "", {7, 130, 100, 13}},
+    {kSingleList, SingleSelectList, "", {7, 146, 100, 30}},
 };
-constexpr panel::DialogTemplate kTemplate{300, "", {120, 150}, kControls};
+constexpr panel::DialogTemplate kTemplate{300, "", {120, 180}, kControls};
 
 class Win32ViewTest : public testing::Test {
 protected:
@@ -98,6 +102,15 @@ TEST_F(Win32ViewTest, KeyNotificationIsAnsweredWithZero) {
     key.wVKey = VK_DELETE;
     EXPECT_EQ(SendMessageW(ViewWindow(), WM_NOTIFY, kList, reinterpret_cast<LPARAM>(&key)), 0);
     EXPECT_EQ(m_handler.events, Events{"key 46 in 303"});
+}
+
+TEST_F(Win32ViewTest, ListOfManySelectionsHasNoExtendedStyle) {
+    EXPECT_EQ(SendMessageW(Control(kList), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0), 0);
+}
+
+TEST_F(Win32ViewTest, CutTextsOfAListOfOneSelectionUnfoldUnderTheMouse) {
+    EXPECT_EQ(SendMessageW(Control(kSingleList), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0),
+              LVS_EX_LABELTIP);
 }
 
 TEST_F(Win32ViewTest, DestroyedViewLeavesNoWindow) {
