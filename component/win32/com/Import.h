@@ -8,6 +8,29 @@
 
 namespace component {
 
+/// Brings over the object of COM that `request` delivers. Untouched on failure.
+template <class Interface, class Request>
+contract::Status ImportResult(CBridge& bridge, std::shared_ptr<Interface>& result,
+                              Request request) {
+    ComPtr<ComOf<Interface>> object;
+    const contract::Status status =
+        CallCom([&] { return request(reinterpret_cast<void**>(object.GetAddressOf())); });
+    if (status.IsSuccess()) {
+        result = bridge.Import<Interface>(object.Get());
+    }
+    return status;
+}
+
+/// Asks for an object by its class.
+template <class Interface>
+contract::Status ImportByClass(CBridge& bridge, REFCLSID identifier,
+                               std::shared_ptr<Interface>& result) {
+    return ImportResult(bridge, result, [&](void** object) {
+        return CoCreateInstance(identifier, nullptr, CLSCTX_ALL, __uuidof(ComOf<Interface>),
+                                object);
+    });
+}
+
 /// Base of an object of the contract that stands for one of COM.
 template <class Interface>
 class CImport : public Interface {
@@ -30,21 +53,11 @@ protected:
     /// Asks for another interface.
     template <class Other>
     contract::Status Query(std::shared_ptr<Other>& result) {
-        return Deliver(result, [&](void** object) {
+        return ImportResult(*m_bridge, result, [&](void** object) {
             return m_target->QueryInterface(__uuidof(ComOf<Other>), object);
         });
     }
 
-    /// Asks for an object by its class.
-    template <class Other>
-    contract::Status Create(REFCLSID identifier, std::shared_ptr<Other>& result) {
-        return Deliver(result, [&](void** object) {
-            return CoCreateInstance(identifier, nullptr, CLSCTX_ALL, __uuidof(ComOf<Other>),
-                                    object);
-        });
-    }
-
-    CBridge& Bridge() const { return *m_bridge; }
     const std::shared_ptr<CBridge>& SharedBridge() const { return m_bridge; }
     Com* Target() const { return m_target.Get(); }
 
@@ -55,17 +68,6 @@ private:
             CallCom([&] { return (m_target.Get()->*method)(crossings.Get()...); });
         if (status.IsSuccess()) {
             (crossings.Deliver(), ...);
-        }
-        return status;
-    }
-
-    template <class Other, class Request>
-    contract::Status Deliver(std::shared_ptr<Other>& result, Request request) {
-        ComPtr<ComOf<Other>> object;
-        const contract::Status status =
-            CallCom([&] { return request(reinterpret_cast<void**>(object.GetAddressOf())); });
-        if (status.IsSuccess()) {
-            result = m_bridge->template Import<Other>(object.Get());
         }
         return status;
     }

@@ -54,7 +54,7 @@ public:
     Status name(std::shared_ptr<contract::other>& result) override { return Query(result); }
 #define CLASS_OBJECT(name, other, identifier)                                                      \
     Status name(std::shared_ptr<contract::other>& result) override {                               \
-        return Create(identifier, result);                                                         \
+        return ImportByClass(*SharedBridge(), identifier, result);                                 \
     }
 #define EVENTS(contract_, events)                                                                  \
     Status QueryBaseObject(std::shared_ptr<contract::IBaseObject<contract::events>>& object)       \

@@ -1,6 +1,7 @@
 #include "component/win32/control/Control.h"
 
 #include "component/win32/control/Extent.h"
+#include "component/win32/control/OwnContext.h"
 #include "frontend/win32/Win32Toolkit.h"
 
 #include <utility>
@@ -61,6 +62,7 @@ CControl::CControl()
       m_classInfo(*this),
       m_errorInfoSupport(*this) {
     m_bridge->SetFace(*m_panel, *this);
+    static_cast<void>(m_panel->SetContext(std::make_shared<COwnContext>(m_bridge)));
 }
 
 CControl::~CControl() {

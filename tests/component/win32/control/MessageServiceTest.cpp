@@ -6,6 +6,8 @@
 #include "contract/ErrorInfo.h"
 #include "panel/control/PanelTemplate.h"
 
+#include <commctrl.h>
+
 namespace controltests {
 
 namespace {
@@ -38,18 +40,8 @@ private:
     KRX8_COUNTED_REFERENCES(CServiceFactory)
 };
 
-class MessageServiceTest : public ControlFixture {
+class MessageServiceFixture : public ControlFixture {
 protected:
-    void SetUp() override {
-        StartConnected();
-        host->device->inside = [](const std::string& call) {
-            if (call != "RequestMode(4)") {
-                return contract::kSuccess;
-            }
-            contract::SetErrorInfo("The plug is loose");
-            return contract::kUnspecifiedFailure;
-        };
-    }
     void TearDown() override {
         Revoke();
         ControlFixture::TearDown();
@@ -73,6 +65,20 @@ protected:
 
 private:
     DWORD m_registration = 0;
+};
+
+class MessageServiceTest : public MessageServiceFixture {
+protected:
+    void SetUp() override {
+        StartConnected();
+        host->device->inside = [](const std::string& call) {
+            if (call != "RequestMode(4)") {
+                return contract::kSuccess;
+            }
+            contract::SetErrorInfo("The plug is loose");
+            return contract::kUnspecifiedFailure;
+        };
+    }
 };
 
 TEST_F(MessageServiceTest, ServiceOfTheHostShowsTheReportWithItsDescription) {
@@ -111,6 +117,26 @@ TEST_F(MessageServiceTest, ControlReleasedInsideTheServiceEnds) {
     service->whileOpen = [&] { container.Release(); };
     Press(panel::kResetButton);
     EXPECT_EQ(service->shown.size(), 1u);
+}
+
+class NoContextTest : public MessageServiceFixture {};
+
+TEST_F(NoContextTest, ServiceIsFoundByItsClassAllTheSame) {
+    RegisterService();
+    EXPECT_EQ(container.As<ISetSubsystemAccess>()->SetSubsystemAccess(nullptr), E_POINTER);
+    const Shown expected{"Connecting to KxProgrammingDevice subsystem failed", "SetSubsystemAccess",
+                         0x10, E_POINTER, ""};
+    EXPECT_EQ(service->shown, std::vector{expected});
+}
+
+TEST_F(NoContextTest, ServiceDoesNotMakeTheViewMoreThanABareOne) {
+    RegisterService();
+    container.Embed();
+    EXPECT_EQ(container.ActivateForUser(), S_OK);
+    EXPECT_FALSE(IsWindowVisible(container.Button(panel::kCloseButton)));
+    const auto header = reinterpret_cast<HWND>(
+        SendMessageW(container.Button(panel::kFileList), LVM_GETHEADER, 0, 0));
+    EXPECT_EQ(Header_GetItemCount(header), 0);
 }
 
 }
