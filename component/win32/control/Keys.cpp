@@ -31,9 +31,9 @@ bool LeavesView(HWND view, bool isBackwards) {
 }
 
 // The keys of A to Z are numbered as the capitals, on keyboards without Latin letters too.
-WORD KeyOf(char letter) {
+WPARAM KeyOf(WPARAM letter) {
     const bool isSmall = letter >= 'a' && letter <= 'z';
-    return static_cast<WORD>(isSmall ? letter - 'a' + 'A' : letter);
+    return isSmall ? letter - 'a' + 'A' : letter;
 }
 
 bool IsPushButton(HWND control) {
@@ -64,8 +64,9 @@ bool IsForView(HWND view, const MSG& message) {
     case WM_KEYDOWN:
         return IsForView(view, message.wParam);
     case WM_CHAR:
-    case WM_SYSCHAR:
         return true;
+    case WM_SYSCHAR:
+        return FindButton(view, KeyOf(message.wParam)) != nullptr;
     default:
         return false;
     }
@@ -93,10 +94,21 @@ std::vector<ACCEL> Mnemonics() {
         const std::string_view text = control.text;
         const std::size_t mark = text.find('&');
         if (mark + 1 < text.size() && mark != std::string_view::npos) {
-            mnemonics.push_back({FALT | FVIRTKEY, KeyOf(text[mark + 1]), control.id});
+            const auto letter = static_cast<unsigned char>(text[mark + 1]);
+            mnemonics.push_back({FALT | FVIRTKEY, static_cast<WORD>(KeyOf(letter)), control.id});
         }
     }
     return mnemonics;
+}
+
+HWND FindButton(HWND view, WPARAM key) {
+    for (const ACCEL& mnemonic : Mnemonics()) {
+        const HWND button = GetDlgItem(view, mnemonic.cmd);
+        if (mnemonic.key == key && IsWindowEnabled(button) && IsWindowVisible(button)) {
+            return button;
+        }
+    }
+    return nullptr;
 }
 
 }

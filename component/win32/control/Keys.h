@@ -8,7 +8,8 @@
 namespace component {
 
 /// Whether a key message in the view is the view's own: Tab unless it would leave the view, arrow
-/// keys, Return, mnemonics, and F1. The others are the container's to look at first.
+/// keys, Return, mnemonics that press a button, characters, and F1. The others are the container's
+/// to look at first.
 bool IsForView(HWND view, const MSG& message);
 
 /// Carries such a message out; false where the view had no use for it after all.
@@ -16,5 +17,9 @@ bool HandOn(HWND view, MSG& message);
 
 /// The mnemonics of the view's buttons, each with Alt, as a container wants to know them.
 std::vector<ACCEL> Mnemonics();
+
+/// The button that the mnemonic of that virtual-key code presses; null when there is none, or the
+/// user could not press it.
+HWND FindButton(HWND view, WPARAM key);
 
 }

@@ -31,13 +31,8 @@ HRESULT COleControl::OnMnemonic(MSG* message) {
     }
     return Enter([&] {
         const HWND view = m_activation.GetView();
-        for (const ACCEL& mnemonic : Mnemonics()) {
-            const HWND button = view ? GetDlgItem(view, mnemonic.cmd) : nullptr;
-            if (mnemonic.key == message->wParam && IsWindowEnabled(button) &&
-                IsWindowVisible(button)) {
-                SendMessageW(button, BM_CLICK, 0, 0);
-                break;
-            }
+        if (const HWND button = view ? FindButton(view, message->wParam) : nullptr) {
+            SendMessageW(button, BM_CLICK, 0, 0);
         }
         return S_OK;
     });

@@ -150,6 +150,33 @@ TEST_F(KeysTest, OtherKeysAreOfferedToTheSiteWithTheirModifiers) {
                                                   OfferedKey{WM_KEYDOWN, VK_ESCAPE, 0}}));
 }
 
+TEST_F(KeysTest, AltAndLetterOfNoButtonAreOfferedToTheSite) {
+    Focus(panel::kFileList);
+    MSG key{container.Button(panel::kFileList), WM_SYSCHAR, 'x', 0, 0, {}};
+    EXPECT_EQ(Active()->TranslateAccelerator(&key), S_FALSE);
+    EXPECT_EQ(Offered(), (Keys{{WM_SYSCHAR, 'x', 0}}));
+    container.Record().Answer("TranslateAccelerator", S_OK);
+    EXPECT_EQ(Active()->TranslateAccelerator(&key), S_OK);
+}
+
+TEST_F(KeysTest, MnemonicThatItsButtonCannotTakeIsOfferedToTheSite) {
+    Focus(panel::kStatusLog);
+    host->RaiseState(5);
+    MSG key{container.Button(panel::kStatusLog), WM_SYSCHAR, 's', 0, 0, {}};
+    EXPECT_EQ(Active()->TranslateAccelerator(&key), S_FALSE);
+    EXPECT_EQ(Offered(), (Keys{{WM_SYSCHAR, 's', 0}}));
+}
+
+TEST_F(KeysTest, MnemonicOfAButtonIsNotOfferedInEitherCase) {
+    Focus(panel::kFileList);
+    for (const WPARAM letter : {'c', 'C'}) {
+        MSG key{container.Button(panel::kFileList), WM_SYSCHAR, letter, 0, 0, {}};
+        EXPECT_EQ(Active()->TranslateAccelerator(&key), S_OK);
+    }
+    EXPECT_EQ(Offered(), Keys{});
+    EXPECT_EQ(host->viewControl->closeRequests, 2);
+}
+
 TEST_F(KeysTest, KeyThatTheSiteUsesDoesNotReachTheControl) {
     Focus(panel::kFileList);
     container.Record().Answer("TranslateAccelerator", S_OK);
