@@ -1,6 +1,7 @@
 #include "component/win32/control/ControlWindow.h"
 
 #include "frontend/win32/Barrier.h"
+#include "frontend/win32/Counted.h"
 #include "frontend/win32/Module.h"
 
 #include <utility>
