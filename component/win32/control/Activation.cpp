@@ -178,10 +178,11 @@ void CActivation::Deactivate() {
     if (std::exchange(m_stage, Stage::Moving) == Stage::ForUser) {
         LeaveFrames();
     }
-    m_stage = Stage::Outside;
+    m_stage = Stage::Moving;
     if (m_window && m_window->Get()) {
         m_window->Park();
     }
+    m_stage = Stage::Outside;
     m_frames = {};
     // The site may ask for the same again.
     if (const ComPtr<IOleInPlaceSite> site = std::move(m_site)) {

@@ -151,12 +151,16 @@ void CControlWindow::ShowIn(HWND parent) {
     ShowWindow(Get(), SW_SHOW);
 }
 
+// Its owner may end it as the container's window hears of the focus.
 void CControlWindow::Park() {
+    const auto procedure = m_procedure;
     if (HasFocus()) {
         SetFocus(GetAncestor(Get(), GA_PARENT));
     }
-    ShowWindow(Get(), SW_HIDE);
-    SetParent(Get(), HWND_MESSAGE);
+    if (const HWND window = procedure->Get()) {
+        ShowWindow(window, SW_HIDE);
+        SetParent(window, HWND_MESSAGE);
+    }
 }
 
 void CControlWindow::Place(const RECT& place, const RECT& clip) {

@@ -30,8 +30,9 @@ public:
     /// The panel's view in it; null when there is none.
     HWND GetView() const;
 
-    /// Shows it below `parent`, or hides it where no container sees it.
     void ShowIn(HWND parent);
+    /// Hides it where no container sees it. The focus goes back to its parent first, inside which
+    /// this may end.
     void Park();
 
     /// Places it, and cuts off what is outside of `clip`; both in the client area of its parent.
