@@ -1,5 +1,7 @@
 #include "component/win32/control/Activation.h"
 
+#include "frontend/win32/Counted.h"
+
 #include <utility>
 
 namespace component {
@@ -126,6 +128,9 @@ HRESULT CActivation::MakeWindow(HWND parent) {
 }
 
 HRESULT CActivation::ActivateForUser() {
+    if (m_leaveDepth > 0) {
+        return E_UNEXPECTED;
+    }
     const HRESULT result = m_stage == Stage::InPlace ? TakeFrames() : S_OK;
     if (m_stage == Stage::ForUser) {
         m_window->TakeFocus();
@@ -165,6 +170,7 @@ void CActivation::LeaveFrames() {
     // Those of now: the container may end the activation altogether inside the first call.
     const ComPtr<IOleInPlaceSite> site = m_site;
     const Frames frames = m_frames;
+    const win32::CCounted depth(m_leaveDepth);
     TellFocus(*site.Get(), FALSE);
     for (const auto& frame : frames) {
         if (frame) {

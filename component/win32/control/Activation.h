@@ -14,7 +14,8 @@ enum class Stage { Outside, Moving, InPlace, ForUser };
 
 /// The control's way into its container and out again: nothing shown, active in place, active for
 /// the user. Leaves with every reference it has taken, whatever the site answers. The container may
-/// deactivate it, close it and let go of it inside each call that it gets.
+/// deactivate it, close it and let go of it inside each call that it gets; what it begins inside an
+/// end is refused until that is over.
 ///
 /// The panel has one view in its life, made at the first activation: a control that is deactivated
 /// keeps it where nobody sees it, and one whose view has ended cannot be activated again.
@@ -59,6 +60,8 @@ private:
     ComPtr<IOleInPlaceSite> m_site;
     Frames m_frames;
     std::unique_ptr<CControlWindow> m_window;
+    /// How many calls are telling the container that it is no longer active for the user.
+    int m_leaveDepth = 0;
 };
 
 }

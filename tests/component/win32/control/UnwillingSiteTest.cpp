@@ -107,7 +107,7 @@ class InterferenceTest : public UnwillingSiteTest,
                          public testing::WithParamInterface<Interference> {
 protected:
     /// Activates a control and hides it again, interfering inside the first call of that name.
-    Calls RunInterfering(const std::string& call) {
+    Calls RunInterfering(const std::string& call, bool takesKeyboardFirst) {
         CContainer own(library, window->Get());
         own.Embed();
         own.Record().TakeCalls();
@@ -119,6 +119,9 @@ protected:
         });
         const auto object = own.As<IOleObject>();
         static_cast<void>(own.ActivateForUser());
+        if (takesKeyboardFirst) {
+            own.As<IOleInPlaceObject>()->UIDeactivate();
+        }
         static_cast<void>(object->DoVerb(OLEIVERB_HIDE, nullptr, nullptr, 0, nullptr, nullptr));
         if (!own.Window()) {
             EXPECT_EQ(own.Site().Frame().Active(), nullptr);
@@ -129,6 +132,13 @@ protected:
         own.Pump();
         EXPECT_EQ(own.Site().Frame().Active(), nullptr);
         return own.Record().TakeCalls();
+    }
+    void ExpectBalance(const Calls& calls) {
+        EXPECT_EQ(std::ranges::count(calls, "OnInPlaceActivate"),
+                  std::ranges::count(calls, "OnInPlaceDeactivate"));
+        EXPECT_EQ(std::ranges::count(calls, "OnUIActivate"),
+                  std::ranges::count(calls, "OnUIDeactivate"));
+        ExpectNothingLeft();
     }
 };
 
@@ -141,12 +151,16 @@ TEST_P(InterferenceTest, InsideEachCallLeavesTheSiteInBalance) {
           "frame.SetActiveObject(null)", "document.SetActiveObject(null)", "OnUIDeactivate",
           "OnInPlaceDeactivate", "OnShowWindow(false)"}) {
         SCOPED_TRACE(call);
-        const Calls calls = RunInterfering(call);
-        EXPECT_EQ(std::ranges::count(calls, "OnInPlaceActivate"),
-                  std::ranges::count(calls, "OnInPlaceDeactivate"));
-        EXPECT_EQ(std::ranges::count(calls, "OnUIActivate"),
-                  std::ranges::count(calls, "OnUIDeactivate"));
-        ExpectNothingLeft();
+        ExpectBalance(RunInterfering(call, false));
+    }
+}
+
+TEST_P(InterferenceTest, InsideEachCallOfUiDeactivationLeavesTheSiteInBalance) {
+    container.Release();
+    for (const char* call : {"OnFocus(false)", "frame.SetActiveObject(null)",
+                             "document.SetActiveObject(null)", "OnUIDeactivate"}) {
+        SCOPED_TRACE(call);
+        ExpectBalance(RunInterfering(call, true));
     }
 }
 
@@ -163,6 +177,20 @@ constexpr Interference kInterferences[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, InterferenceTest, testing::ValuesIn(kInterferences));
+
+TEST_F(UnwillingSiteTest, UiActivationInsideUiDeactivationIsRefused) {
+    Embed();
+    ASSERT_EQ(container.ActivateForUser(), S_OK);
+    std::vector<HRESULT> inside;
+    container.Record().Inside(
+        [&](const std::string&) { inside.push_back(container.ActivateForUser()); });
+    EXPECT_EQ(container.As<IOleInPlaceObject>()->UIDeactivate(), S_OK);
+    container.Record().Inside({});
+    EXPECT_EQ(inside, std::vector<HRESULT>(4, E_UNEXPECTED));
+    EXPECT_EQ(container.Site().Frame().Active(), nullptr);
+    EXPECT_EQ(container.ActivateForUser(), S_OK);
+    EXPECT_NE(container.Site().Frame().Active(), nullptr);
+}
 
 TEST_F(UnwillingSiteTest, ControlReleasedInsideEachCallOfItsActivationEnds) {
     container.Release();
