@@ -118,7 +118,9 @@ HRESULT CActivation::MakeWindow(HWND parent) {
     };
     m_window = CControlWindow::Create(parent, std::move(events));
     if (!m_window) {
-        return HRESULT_FROM_WIN32(GetLastError());
+        // A hook that refuses a window need not say why.
+        const DWORD error = GetLastError();
+        return error ? HRESULT_FROM_WIN32(error) : E_FAIL;
     }
     const contract::Status status = m_panel.CreateView(m_window->Get());
     if (status.IsFailure()) {

@@ -1,6 +1,7 @@
 // A site that refuses what the control asks of it, or does something else inside.
 
 #include "tests/component/win32/control/ControlFixture.h"
+#include "tests/frontend/win32/Input.h"
 
 #include <algorithm>
 
@@ -93,6 +94,41 @@ TEST_F(UnwillingSiteTest, WindowThatIsNoneIsNoPlace) {
     container.Site().offeredWindow = nullptr;
     EXPECT_EQ(container.Activate(), E_UNEXPECTED);
     EXPECT_THAT(container.Record().TakeCalls(), testing::Contains("OnInPlaceDeactivate"));
+}
+
+/// A system that makes no window of the control's class, and does not say why.
+class CNoControlWindows {
+public:
+    CNoControlWindows()
+        : m_hook(SetWindowsHookExW(WH_CBT, Refuse, nullptr, GetCurrentThreadId())) {}
+    ~CNoControlWindows() { UnhookWindowsHookEx(m_hook); }
+    CNoControlWindows(const CNoControlWindows&) = delete;
+    CNoControlWindows& operator=(const CNoControlWindows&) = delete;
+
+private:
+    static LRESULT CALLBACK Refuse(int code, WPARAM wParam, LPARAM lParam) {
+        if (code == HCBT_CREATEWND) {
+            const bool isControl =
+                win32tests::ClassOf(reinterpret_cast<HWND>(wParam)) == L"KRX8Maintenance";
+            SetLastError(0);
+            return isControl;
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    const HHOOK m_hook;
+};
+
+TEST_F(UnwillingSiteTest, WindowThatTheSystemDoesNotMakeIsAFailure) {
+    Embed();
+    {
+        const CNoControlWindows system;
+        SetLastError(0);
+        EXPECT_EQ(container.ActivateForUser(), E_FAIL);
+    }
+    EXPECT_EQ(container.Window(), nullptr);
+    EXPECT_THAT(container.Record().TakeCalls(), testing::Contains("OnInPlaceDeactivate"));
+    EXPECT_EQ(container.ActivateForUser(), S_OK);
 }
 
 /// What a container does inside a call that it gets.
