@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,11 +22,15 @@ public:
             act(call);
         }
         const auto answer = m_answers.find(call);
-        return answer == m_answers.end() ? usual : answer->second;
+        return answer == m_answers.end() ? m_answer.value_or(usual) : answer->second;
     }
 
     void Answer(const std::string& call, HRESULT result) { m_answers[call] = result; }
-    void AnswerAsUsual() { m_answers.clear(); }
+    void AnswerAll(HRESULT result) { m_answer = result; }
+    void AnswerAsUsual() {
+        m_answers.clear();
+        m_answer.reset();
+    }
     /// `act` runs inside each call.
     void Inside(std::function<void(const std::string& call)> act) { m_inside = std::move(act); }
 
@@ -35,6 +40,7 @@ public:
 private:
     std::vector<std::string> m_calls;
     std::map<std::string, HRESULT> m_answers;
+    std::optional<HRESULT> m_answer;
     std::function<void(const std::string& call)> m_inside;
 };
 

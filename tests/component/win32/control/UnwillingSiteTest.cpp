@@ -131,6 +131,34 @@ TEST_F(UnwillingSiteTest, WindowThatTheSystemDoesNotMakeIsAFailure) {
     EXPECT_EQ(container.ActivateForUser(), S_OK);
 }
 
+TEST_F(UnwillingSiteTest, SiteThatRefusesEverythingLeavesTheControlOut) {
+    Embed();
+    container.Record().AnswerAll(E_FAIL);
+    for (const LONG verb : {OLEIVERB_PRIMARY, OLEIVERB_SHOW, OLEIVERB_OPEN, OLEIVERB_UIACTIVATE,
+                            OLEIVERB_INPLACEACTIVATE}) {
+        EXPECT_EQ(container.DoVerb(verb), E_FAIL) << verb;
+        EXPECT_EQ(container.Window(), nullptr);
+    }
+    EXPECT_EQ(container.DoVerb(OLEIVERB_HIDE), S_OK);
+    EXPECT_EQ(container.DoVerb(OLEIVERB_DISCARDUNDOSTATE), S_OK);
+    EXPECT_EQ(container.Site().Outstanding(), 1u);
+    EXPECT_EQ(Object()->Close(OLECLOSE_NOSAVE), S_OK);
+}
+
+TEST_F(UnwillingSiteTest, SiteThatRefusesEverythingFromNowOnLosesTheControl) {
+    Embed();
+    ASSERT_EQ(container.ActivateForUser(), S_OK);
+    container.Record().AnswerAll(E_FAIL);
+    EXPECT_EQ(container.DoVerb(OLEIVERB_UIACTIVATE), S_OK);
+    container.Press(VK_F5);
+    EXPECT_EQ(container.As<IOleInPlaceObject>()->UIDeactivate(), S_OK);
+    EXPECT_EQ(container.DoVerb(OLEIVERB_UIACTIVATE), E_FAIL);
+    EXPECT_EQ(container.DoVerb(OLEIVERB_HIDE), S_OK);
+    EXPECT_EQ(container.Window(), nullptr);
+    EXPECT_EQ(container.Site().Outstanding(), 1u);
+    EXPECT_EQ(Object()->Close(OLECLOSE_NOSAVE), S_OK);
+}
+
 /// What a container does inside a call that it gets.
 struct Interference {
     Name name;
