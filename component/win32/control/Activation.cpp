@@ -58,7 +58,7 @@ HRESULT CActivation::Activate(IOleClientSite* site, bool forUser) {
     if (!GetWindow()) {
         // Its window may have gone with the container's.
         Deactivate();
-        const HRESULT result = Enter(*site);
+        const HRESULT result = HasEnded() ? E_UNEXPECTED : Enter(*site);
         if (FAILED(result)) {
             return result;
         }
@@ -199,6 +199,7 @@ void CActivation::Deactivate() {
 }
 
 void CActivation::Close() {
+    m_isClosed = true;
     Deactivate();
     m_panel.DestroyView();
     m_window.reset();

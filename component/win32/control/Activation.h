@@ -18,7 +18,8 @@ enum class Stage { Outside, Moving, InPlace, ForUser };
 /// end is refused until that is over.
 ///
 /// The panel has one view in its life, made at the first activation: a control that is deactivated
-/// keeps it where nobody sees it, and one whose view has ended cannot be activated again.
+/// keeps it where nobody sees it, and one that is closed, or whose view has ended with its window,
+/// cannot be activated again.
 class CActivation {
 public:
     /// Keeps `stage` up to date.
@@ -27,7 +28,8 @@ public:
 
     /// Shows the control in the place that `site` gives it; with `forUser` it is also given the
     /// keyboard and the frame's menus. Fails where the site will have none of it; what it has
-    /// reached by then without the keyboard stays.
+    /// reached by then without the keyboard stays. E_UNEXPECTED, of which no site hears, for a
+    /// control that cannot be activated again.
     HRESULT Activate(IOleClientSite* site, bool forUser);
     void DeactivateForUser();
     void Deactivate();
@@ -46,6 +48,7 @@ private:
     /// The container's frame and document window; null where it has none.
     using Frames = std::array<ComPtr<IOleInPlaceUIWindow>, 2>;
 
+    bool HasEnded() const { return m_isClosed || (m_window && !m_window->Get()); }
     HRESULT Enter(IOleClientSite& clientSite);
     HRESULT TakePlace(IOleInPlaceSite& site);
     HRESULT MakeWindow(HWND parent);
@@ -62,6 +65,7 @@ private:
     std::unique_ptr<CControlWindow> m_window;
     /// How many calls are telling the container that it is no longer active for the user.
     int m_leaveDepth = 0;
+    bool m_isClosed = false;
 };
 
 }

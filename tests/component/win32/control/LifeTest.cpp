@@ -67,11 +67,26 @@ TEST_F(LifeTest, SecondCloseTellsTheSiteNothing) {
     EXPECT_EQ(container.Record().TakeCalls(), Calls{});
 }
 
+TEST_F(LifeTest, ClosedControlIsNotActivatedAgainAndAsksTheSiteNothing) {
+    StartConnected();
+    EXPECT_EQ(Object()->Close(OLECLOSE_NOSAVE), S_OK);
+    container.Record().TakeCalls();
+    EXPECT_EQ(container.Activate(), E_UNEXPECTED);
+    EXPECT_EQ(container.ActivateForUser(), E_UNEXPECTED);
+    EXPECT_EQ(container.Record().TakeCalls(), Calls{});
+}
+
+TEST_F(LifeTest, ControlClosedBeforeItWasActivatedIsNotActivated) {
+    Embed();
+    EXPECT_EQ(Object()->Close(OLECLOSE_NOSAVE), S_OK);
+    container.Record().TakeCalls();
+    EXPECT_EQ(container.Activate(), E_UNEXPECTED);
+    EXPECT_EQ(container.Record().TakeCalls(), Calls{});
+}
+
 TEST_F(LifeTest, CallsAfterCloseFailOrDoNothing) {
     StartConnected();
     EXPECT_EQ(Object()->Close(OLECLOSE_NOSAVE), S_OK);
-    EXPECT_TRUE(FAILED(container.Activate()));
-    EXPECT_TRUE(FAILED(container.ActivateForUser()));
     EXPECT_EQ(container.DoVerb(OLEIVERB_HIDE), S_OK);
     const auto inPlace = container.As<IOleInPlaceObject>();
     EXPECT_EQ(inPlace->UIDeactivate(), S_OK);
@@ -92,7 +107,10 @@ TEST_F(LifeTest, ParentWindowDestroyedFirstTakesTheViewAlong) {
     EXPECT_EQ(container.Window(), nullptr);
     EXPECT_EQ(CountControlWindows(), 0);
     host->RaiseState(7);
-    EXPECT_TRUE(FAILED(container.Activate()));
+    EXPECT_EQ(container.Activate(), E_UNEXPECTED);
+    EXPECT_THAT(container.Record().TakeCalls(), testing::Contains("OnInPlaceDeactivate"));
+    EXPECT_EQ(container.Activate(), E_UNEXPECTED);
+    EXPECT_EQ(container.Record().TakeCalls(), Calls{});
     EXPECT_EQ(container.As<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
 }
 
