@@ -42,11 +42,17 @@ HRESULT CAutomation::Invoke(DISPID number, REFIID, LCID, WORD flags, DISPPARAMS*
 }
 
 HRESULT CAutomation::get_DeviceType(LONG* type) {
-    return type ? (*type = static_cast<LONG>(m_state.deviceType), S_OK) : E_POINTER;
+    if (!type) {
+        return E_POINTER;
+    }
+    return Enter([&] { return *type = static_cast<LONG>(m_state.deviceType), S_OK; });
 }
 
 HRESULT CAutomation::get_DeviceMode(LONG* mode) {
-    return mode ? (*mode = static_cast<LONG>(m_state.deviceMode), S_OK) : E_POINTER;
+    if (!mode) {
+        return E_POINTER;
+    }
+    return Enter([&] { return *mode = static_cast<LONG>(m_state.deviceMode), S_OK; });
 }
 
 HRESULT CClassInfo::GetClassInfo(ITypeInfo** info) {

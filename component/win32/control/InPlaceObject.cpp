@@ -6,17 +6,20 @@ namespace component {
 
 namespace {
 
-HRESULT TellWindow(const CActivation& activation, HWND* window) {
+HRESULT TellWindow(const CActivation& activation, HWND& window) {
+    window = activation.GetWindow();
+    return window ? S_OK : E_FAIL;
+}
+
+}
+
+HRESULT CInPlaceObject::GetWindow(HWND* window) {
     if (!window) {
         return E_POINTER;
     }
-    *window = activation.GetWindow();
-    return *window ? S_OK : E_FAIL;
+    *window = nullptr;
+    return Enter([&] { return TellWindow(m_activation, *window); });
 }
-
-}
-
-HRESULT CInPlaceObject::GetWindow(HWND* window) { return TellWindow(m_activation, window); }
 
 HRESULT CInPlaceObject::ContextSensitiveHelp(BOOL) { return E_NOTIMPL; }
 
@@ -44,7 +47,13 @@ HRESULT CInPlaceObject::SetObjectRects(LPCRECT place, LPCRECT clip) {
 
 HRESULT CInPlaceObject::ReactivateAndUndo() { return INPLACE_E_NOTUNDOABLE; }
 
-HRESULT CInPlaceActiveObject::GetWindow(HWND* window) { return TellWindow(m_activation, window); }
+HRESULT CInPlaceActiveObject::GetWindow(HWND* window) {
+    if (!window) {
+        return E_POINTER;
+    }
+    *window = nullptr;
+    return Enter([&] { return TellWindow(m_activation, *window); });
+}
 
 HRESULT CInPlaceActiveObject::ContextSensitiveHelp(BOOL) { return E_NOTIMPL; }
 

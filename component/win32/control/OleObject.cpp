@@ -41,11 +41,8 @@ HRESULT COleObject::GetClientSite(IOleClientSite** site) {
     if (!site) {
         return E_POINTER;
     }
-    *site = m_site.Get();
-    if (*site) {
-        (*site)->AddRef();
-    }
-    return S_OK;
+    *site = nullptr;
+    return Enter([&] { return ComPtr<IOleClientSite>(m_site.Get()).CopyTo(site); });
 }
 
 // It shows no name of its container anywhere.
@@ -139,18 +136,25 @@ HRESULT COleObject::GetExtent(DWORD aspect, SIZEL* extent) {
     if (aspect != DVASPECT_CONTENT) {
         return DV_E_DVASPECT;
     }
-    return extent ? (*extent = m_site.GetExtent(), S_OK) : E_POINTER;
+    if (!extent) {
+        return E_POINTER;
+    }
+    return Enter([&] { return *extent = m_site.GetExtent(), S_OK; });
 }
 
 HRESULT COleObject::Advise(IAdviseSink* sink, DWORD* cookie) {
     if (!sink || !cookie) {
         return E_POINTER;
     }
-    return m_site.Listeners() ? m_site.Listeners()->Advise(sink, cookie) : E_OUTOFMEMORY;
+    *cookie = 0;
+    return Enter([&] {
+        return m_site.Listeners() ? m_site.Listeners()->Advise(sink, cookie) : E_OUTOFMEMORY;
+    });
 }
 
 HRESULT COleObject::Unadvise(DWORD cookie) {
-    return m_site.Listeners() ? m_site.Listeners()->Unadvise(cookie) : E_OUTOFMEMORY;
+    return Enter(
+        [&] { return m_site.Listeners() ? m_site.Listeners()->Unadvise(cookie) : E_OUTOFMEMORY; });
 }
 
 HRESULT COleObject::EnumAdvise(IEnumSTATDATA** sinks) {
@@ -158,7 +162,8 @@ HRESULT COleObject::EnumAdvise(IEnumSTATDATA** sinks) {
         return E_POINTER;
     }
     *sinks = nullptr;
-    return m_site.Listeners() ? m_site.Listeners()->EnumAdvise(sinks) : E_OUTOFMEMORY;
+    return Enter(
+        [&] { return m_site.Listeners() ? m_site.Listeners()->EnumAdvise(sinks) : E_OUTOFMEMORY; });
 }
 
 HRESULT COleObject::GetMiscStatus(DWORD aspect, DWORD* status) {

@@ -37,15 +37,23 @@ HRESULT CViewObject::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) {
 }
 
 HRESULT CViewObject::GetAdvise(DWORD* aspects, DWORD* flags, IAdviseSink** sink) {
-    m_site.GetViewListener(aspects, flags, sink);
-    return S_OK;
+    if (sink) {
+        *sink = nullptr;
+    }
+    return Enter([&] {
+        m_site.GetViewListener(aspects, flags, sink);
+        return S_OK;
+    });
 }
 
 HRESULT CViewObject::GetExtent(DWORD aspect, LONG, DVTARGETDEVICE*, SIZEL* extent) {
     if (aspect != DVASPECT_CONTENT) {
         return DV_E_DVASPECT;
     }
-    return extent ? (*extent = m_site.GetExtent(), S_OK) : E_POINTER;
+    if (!extent) {
+        return E_POINTER;
+    }
+    return Enter([&] { return *extent = m_site.GetExtent(), S_OK; });
 }
 
 }

@@ -1,6 +1,7 @@
 // What a host should not do: null pointers, and calls from other threads.
 
 #include "tests/component/win32/control/ControlFixture.h"
+#include "tests/component/win32/control/Listener.h"
 
 #include <thread>
 
@@ -111,6 +112,58 @@ TEST_F(BadCallTest, HostsCallsOnAnotherThreadAreRefused) {
     EXPECT_EQ(Elsewhere([&] { return member->SetContext(nullptr); }), RPC_E_WRONG_THREAD);
     EXPECT_EQ(Elsewhere([&] { return access->SetSubsystemAccess(nullptr); }), RPC_E_WRONG_THREAD);
     EXPECT_EQ(host->SubscriberCount(), 1u);
+}
+
+TEST_F(BadCallTest, QuestionsOnAnotherThreadAreRefused) {
+    Start();
+    const auto automation = container.As<IKRX8Maintenance>();
+    const auto object = container.As<IOleObject>();
+    const auto view = container.As<IViewObject2>();
+    LONG value = -5;
+    SIZEL extent{-5, -5};
+    EXPECT_EQ(Elsewhere([&] { return automation->get_DeviceType(&value); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(Elsewhere([&] { return automation->get_DeviceMode(&value); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(value, -5);
+    EXPECT_EQ(Elsewhere([&] { return object->GetExtent(DVASPECT_CONTENT, &extent); }),
+              RPC_E_WRONG_THREAD);
+    EXPECT_EQ(Elsewhere([&] { return view->GetExtent(DVASPECT_CONTENT, -1, nullptr, &extent); }),
+              RPC_E_WRONG_THREAD);
+    EXPECT_EQ(extent.cx, -5);
+}
+
+TEST_F(BadCallTest, NoObjectOrWindowIsDeliveredToAnotherThread) {
+    Start();
+    const auto object = container.As<IOleObject>();
+    const auto view = container.As<IViewObject2>();
+    IOleClientSite* site = reinterpret_cast<IOleClientSite*>(8);
+    EXPECT_EQ(Elsewhere([&] { return object->GetClientSite(&site); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(site, nullptr);
+    IAdviseSink* sink = reinterpret_cast<IAdviseSink*>(8);
+    EXPECT_EQ(Elsewhere([&] { return view->GetAdvise(nullptr, nullptr, &sink); }),
+              RPC_E_WRONG_THREAD);
+    EXPECT_EQ(sink, nullptr);
+    const auto inPlace = container.As<IOleInPlaceObject>();
+    const auto active = container.As<IOleInPlaceActiveObject>();
+    HWND found = window->Get();
+    EXPECT_EQ(Elsewhere([&] { return inPlace->GetWindow(&found); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(found, nullptr);
+    found = window->Get();
+    EXPECT_EQ(Elsewhere([&] { return active->GetWindow(&found); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(found, nullptr);
+}
+
+TEST_F(BadCallTest, ListenersOnAnotherThreadAreRefused) {
+    CListener listener;
+    const auto object = container.As<IOleObject>();
+    DWORD cookie = 5;
+    IEnumSTATDATA* listeners = reinterpret_cast<IEnumSTATDATA*>(8);
+    EXPECT_EQ(Elsewhere([&] { return object->Advise(&listener, &cookie); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(cookie, 0u);
+    EXPECT_EQ(Elsewhere([&] { return object->EnumAdvise(&listeners); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(listeners, nullptr);
+    ASSERT_EQ(object->Advise(&listener, &cookie), S_OK);
+    EXPECT_EQ(Elsewhere([&] { return object->Unadvise(cookie); }), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(object->Unadvise(cookie), S_OK);
 }
 
 TEST_F(BadCallTest, TypeInformationOnAnotherThreadIsRefused) {
