@@ -140,11 +140,15 @@ private:
         return status;
     }
     // The source knows its cookies best: it may be found through another object each time, beside
-    // which none of its sinks are kept.
+    // which none of its sinks are kept. A sink that it does not let go of still gets events, and
+    // stays in the list.
     HRESULT Unsubscribe(DWORD cookie) {
-        const bool isKept = m_subscriptions->erase(cookie) != 0;
+        const bool isKept = m_subscriptions->contains(cookie);
         const HRESULT status =
             CallContract(IID_IConnectionPoint, [&] { return m_source->Unsubscribe(cookie); });
+        if (SUCCEEDED(status)) {
+            m_subscriptions->erase(cookie);
+        }
         return FAILED(status) && !isKept ? CONNECT_E_NOCONNECTION : status;
     }
 

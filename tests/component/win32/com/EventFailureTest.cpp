@@ -45,6 +45,19 @@ protected:
         return point;
     }
 
+    /// How many sinks are in the list of a point.
+    static ULONG SinksOf(IConnectionPoint& point) {
+        ComPtr<IEnumConnections> connections;
+        EXPECT_EQ(point.EnumConnections(connections.GetAddressOf()), S_OK);
+        CONNECTDATA found[3] = {};
+        ULONG count = 0;
+        connections->Next(3, found, &count);
+        for (ULONG index = 0; index < count; ++index) {
+            found[index].pUnk->Release();
+        }
+        return count;
+    }
+
     std::shared_ptr<CTarget<contract::IConnection>> m_connection =
         interception::MakeTarget<contract::IConnection>();
     std::shared_ptr<CTarget<Base>> m_base = interception::MakeTarget<Base>();
@@ -100,6 +113,20 @@ TEST_F(EventFailureTest, FailingUnsubscriptionPassesStatusAndDescription) {
     Fail(*m_source);
     EXPECT_EQ(point->Unadvise(cookie), -77);
     EXPECT_EQ(TakeDescription(), L"Kabel lose \xD83D\xDD0C");
+}
+
+TEST_F(EventFailureTest, FailingUnsubscriptionLeavesTheSinkInTheListUntilARetrySucceeds) {
+    const auto point = Point();
+    const auto sink = MakeCom<CDispatchDouble>();
+    DWORD cookie = 0;
+    ASSERT_EQ(point->Advise(sink.Get(), &cookie), S_OK);
+    Fail(*m_source);
+    EXPECT_EQ(point->Unadvise(cookie), -77);
+    EXPECT_EQ(point->Unadvise(cookie), -77);
+    EXPECT_EQ(SinksOf(*point.Get()), 1u);
+    m_source->exchange.status = contract::kSuccess;
+    EXPECT_EQ(point->Unadvise(cookie), S_OK);
+    EXPECT_EQ(SinksOf(*point.Get()), 0u);
 }
 
 TEST_F(EventFailureTest, ExceptionOfSourceBecomesFailure) {
