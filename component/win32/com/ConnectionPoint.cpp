@@ -91,19 +91,18 @@ public:
     }
     HRESULT STDMETHODCALLTYPE
     GetConnectionPointContainer(IConnectionPointContainer** container) override {
-        return container ? m_container.CopyTo(container) : E_POINTER;
+        if (!container) {
+            return E_POINTER;
+        }
+        *container = nullptr;
+        return Serve([&] { return m_container.CopyTo(container); });
     }
     HRESULT STDMETHODCALLTYPE Advise(IUnknown* sink, DWORD* cookie) override {
         if (!sink || !cookie) {
             return E_POINTER;
         }
-        ComPtr<IDispatch> dispatch;
-        if (FAILED(sink->QueryInterface(__uuidof(ComOf<Events>),
-                                        reinterpret_cast<void**>(dispatch.GetAddressOf()))) &&
-            FAILED(sink->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) {
-            return CONNECT_E_CANNOTCONNECT;
-        }
-        return Serve([&] { return Subscribe(dispatch, *cookie); });
+        *cookie = 0;
+        return Serve([&] { return Subscribe(*sink, *cookie); });
     }
     HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) override {
         return Serve([&] { return Unsubscribe(cookie); });
@@ -112,6 +111,7 @@ public:
         if (!connections) {
             return E_POINTER;
         }
+        *connections = nullptr;
         return Serve([&] {
             std::vector<HeldConnection> held;
             for (const auto& [cookie, sink] : *m_subscriptions) {
@@ -128,13 +128,19 @@ private:
     HRESULT Serve(Operation operation) {
         return ServeCall(*m_bridge, *this, IID_IConnectionPoint, operation);
     }
-    HRESULT Subscribe(const ComPtr<IDispatch>& sink, DWORD& cookie) {
+    HRESULT Subscribe(IUnknown& sink, DWORD& cookie) {
+        ComPtr<IDispatch> dispatch;
+        if (FAILED(sink.QueryInterface(__uuidof(ComOf<Events>),
+                                       reinterpret_cast<void**>(dispatch.GetAddressOf()))) &&
+            FAILED(sink.QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) {
+            return CONNECT_E_CANNOTCONNECT;
+        }
         std::uint32_t delivered = 0;
-        const auto caller = std::make_shared<Caller>(sink, m_subscriptions);
+        const auto caller = std::make_shared<Caller>(dispatch, m_subscriptions);
         const HRESULT status = CallContract(IID_IConnectionPoint,
                                             [&] { return m_source->Subscribe(caller, delivered); });
         if (SUCCEEDED(status)) {
-            (*m_subscriptions)[delivered] = sink;
+            (*m_subscriptions)[delivered] = dispatch;
             cookie = delivered;
         }
         return status;

@@ -46,6 +46,7 @@ public:
         if (!copy) {
             return E_POINTER;
         }
+        *copy = nullptr;
         return Guarded(__uuidof(Interface), [&] {
             *copy = new CEnumeration(m_items, m_next);
             return S_OK;

@@ -145,7 +145,7 @@ TEST_F(ConnectionPointTest, AdviseWithObjectWithoutEventsIsRefused) {
     DWORD cookie = 5;
     EXPECT_EQ(Point()->Advise(static_cast<IConnectionPoint*>(plain.Get()), &cookie),
               CONNECT_E_CANNOTCONNECT);
-    EXPECT_EQ(cookie, 5u);
+    EXPECT_EQ(cookie, 0u);
 }
 
 TEST_F(ConnectionPointTest, NullPointersAreRefused) {
@@ -165,8 +165,7 @@ TEST_F(ConnectionPointTest, CallsFromAnotherThreadAreRefused) {
     const auto point = Point();
     const auto sink = MakeSink();
     ComPtr<IConnectionPoint> found;
-    ComPtr<IEnumConnections> connections;
-    DWORD cookie = 0;
+    DWORD cookie = 5;
     EXPECT_EQ(OnAnotherThread([&] {
                   return container->FindConnectionPoint(
                       __uuidof(::_IProgrammingDeviceControlEvents), found.GetAddressOf());
@@ -174,10 +173,22 @@ TEST_F(ConnectionPointTest, CallsFromAnotherThreadAreRefused) {
               RPC_E_WRONG_THREAD);
     EXPECT_EQ(OnAnotherThread([&] { return point->Advise(sink.Get(), &cookie); }),
               RPC_E_WRONG_THREAD);
+    EXPECT_EQ(cookie, 0u);
+    EXPECT_EQ(sink->queries, 0);
     EXPECT_EQ(OnAnotherThread([&] { return point->Unadvise(1); }), RPC_E_WRONG_THREAD);
-    EXPECT_EQ(OnAnotherThread([&] { return point->EnumConnections(connections.GetAddressOf()); }),
-              RPC_E_WRONG_THREAD);
     EXPECT_EQ(m_source->SubscriberCount(), 0u);
+}
+
+TEST_F(ConnectionPointTest, NoObjectIsDeliveredToAnotherThread) {
+    const auto point = Point();
+    auto connections = reinterpret_cast<IEnumConnections*>(8);
+    EXPECT_EQ(OnAnotherThread([&] { return point->EnumConnections(&connections); }),
+              RPC_E_WRONG_THREAD);
+    EXPECT_EQ(connections, nullptr);
+    auto container = reinterpret_cast<IConnectionPointContainer*>(8);
+    EXPECT_EQ(OnAnotherThread([&] { return point->GetConnectionPointContainer(&container); }),
+              RPC_E_WRONG_THREAD);
+    EXPECT_EQ(container, nullptr);
 }
 
 TEST_F(ConnectionPointTest, PointKnowsItsInterfaceAndContainer) {

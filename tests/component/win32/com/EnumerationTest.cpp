@@ -2,6 +2,7 @@
 
 #include "tests/component/win32/com/BridgeFixture.h"
 
+#include <new>
 #include <vector>
 
 namespace component {
@@ -12,6 +13,20 @@ struct HeldNumber {
     DWORD number;
 
     CONNECTDATA Copy() const { return {nullptr, number}; }
+};
+
+/// A number for which there may be no memory.
+struct FrugalNumber {
+    static inline bool isMemoryOut = false;
+
+    FrugalNumber() = default;
+    FrugalNumber(const FrugalNumber&) {
+        if (isMemoryOut) {
+            throw std::bad_alloc();
+        }
+    }
+
+    CONNECTDATA Copy() const { return {}; }
 };
 
 class EnumerationTest : public BridgeFixture {
@@ -93,6 +108,16 @@ TEST_F(EnumerationTest, NullPointersAreRefused) {
     EXPECT_EQ(m_numbers->Next(1, nullptr, &fetched), E_POINTER);
     EXPECT_EQ(m_numbers->Clone(nullptr), E_POINTER);
     EXPECT_EQ(m_numbers->QueryInterface(IID_IEnumConnections, nullptr), E_POINTER);
+}
+
+TEST_F(EnumerationTest, CloneWithoutMemoryDeliversNull) {
+    using Frugal = CEnumeration<IEnumConnections, CONNECTDATA, FrugalNumber>;
+    const auto numbers = MakeCom<Frugal>(std::vector<FrugalNumber>(1));
+    auto clone = reinterpret_cast<IEnumConnections*>(8);
+    FrugalNumber::isMemoryOut = true;
+    EXPECT_EQ(numbers->Clone(&clone), E_OUTOFMEMORY);
+    FrugalNumber::isMemoryOut = false;
+    EXPECT_EQ(clone, nullptr);
 }
 
 TEST_F(EnumerationTest, EnumeratorAnswersForItsInterfaceOnly) {

@@ -35,8 +35,11 @@ public:
     IID eventInterface = IID_NULL;
     HRESULT result = S_OK;
     std::function<void()> whileInvoked;
+    /// How often it was asked for an interface.
+    int queries = 0;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** answer) override {
+        ++queries;
         const bool isEvents = identifier != IID_NULL && identifier == eventInterface;
         return AnswerQuery<IDispatch>(this, isEvents ? IID_IDispatch : identifier, answer);
     }
