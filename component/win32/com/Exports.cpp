@@ -127,16 +127,16 @@ public:
             ServeByTypeLibrary([&] { return FindTypeInfo(__uuidof(Com), info); });                 \
         return FAILED(found) ? found : result;                                                     \
     }                                                                                              \
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,             \
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID,    \
                                             DISPID* numbers) override {                            \
         return ServeByTypeLibrary(                                                                 \
-            [&] { return FindNames(__uuidof(Com), names, count, numbers); });                      \
+            [&] { return FindNames(__uuidof(Com), reserved, names, count, numbers); });            \
     }                                                                                              \
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID, LCID, WORD flags,                      \
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID reserved, LCID, WORD flags,             \
                                      DISPPARAMS* parameters, VARIANT* result,                      \
                                      EXCEPINFO* exception, UINT* argument) override {              \
         return ServeByTypeLibrary([&] {                                                            \
-            return InvokeByNumber(static_cast<Com*>(this), __uuidof(Com), number, flags,           \
+            return InvokeByNumber(static_cast<Com*>(this), __uuidof(Com), number, reserved, flags, \
                                   parameters, result, exception, argument);                        \
         });                                                                                        \
     }

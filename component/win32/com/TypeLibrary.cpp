@@ -14,15 +14,28 @@ HRESULT FindTypeInfo(REFGUID identifier, ITypeInfo** info) {
     return FAILED(result) ? result : library->GetTypeInfoOfGuid(identifier, info);
 }
 
-HRESULT FindNames(REFIID interfaceIdentifier, LPOLESTR* names, UINT count, DISPID* numbers) {
+HRESULT FindNames(REFIID interfaceIdentifier, REFIID reserved, LPOLESTR* names, UINT count,
+                  DISPID* numbers) {
+    if (reserved != IID_NULL) {
+        return DISP_E_UNKNOWNINTERFACE;
+    }
+    if (!names || !numbers) {
+        return E_POINTER;
+    }
     ComPtr<ITypeInfo> info;
     const HRESULT result = FindTypeInfo(interfaceIdentifier, info.GetAddressOf());
     return FAILED(result) ? result : info->GetIDsOfNames(names, count, numbers);
 }
 
-HRESULT InvokeByNumber(void* object, REFIID interfaceIdentifier, DISPID number, WORD flags,
-                       DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+HRESULT InvokeByNumber(void* object, REFIID interfaceIdentifier, DISPID number, REFIID reserved,
+                       WORD flags, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
                        UINT* argument) {
+    if (reserved != IID_NULL) {
+        return DISP_E_UNKNOWNINTERFACE;
+    }
+    if (!parameters) {
+        return E_POINTER;
+    }
     ComPtr<ITypeInfo> info;
     const HRESULT status = FindTypeInfo(interfaceIdentifier, info.GetAddressOf());
     return FAILED(status)

@@ -11,9 +11,12 @@ HRESULT LoadTypeLibrary(ITypeLib** library);
 HRESULT FindTypeInfo(REFGUID identifier, ITypeInfo** info);
 
 /// What an object's dual interface answers for the names of its members and to calls by number.
-HRESULT FindNames(REFIID interfaceIdentifier, LPOLESTR* names, UINT count, DISPID* numbers);
-HRESULT InvokeByNumber(void* object, REFIID interfaceIdentifier, DISPID number, WORD flags,
-                       DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+/// DISP_E_UNKNOWNINTERFACE when `reserved` is not IID_NULL, E_POINTER when a pointer is null that
+/// they need.
+HRESULT FindNames(REFIID interfaceIdentifier, REFIID reserved, LPOLESTR* names, UINT count,
+                  DISPID* numbers);
+HRESULT InvokeByNumber(void* object, REFIID interfaceIdentifier, DISPID number, REFIID reserved,
+                       WORD flags, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
                        UINT* argument);
 
 }

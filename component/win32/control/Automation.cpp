@@ -23,21 +23,18 @@ HRESULT CAutomation::GetTypeInfo(UINT index, LCID, ITypeInfo** info) {
     });
 }
 
-HRESULT CAutomation::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* numbers) {
-    if (!names || !numbers) {
-        return E_POINTER;
-    }
-    return Enter([&] { return FindNames(__uuidof(IKRX8Maintenance), names, count, numbers); });
+HRESULT CAutomation::GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID,
+                                   DISPID* numbers) {
+    return Enter(
+        [&] { return FindNames(__uuidof(IKRX8Maintenance), reserved, names, count, numbers); });
 }
 
-HRESULT CAutomation::Invoke(DISPID number, REFIID, LCID, WORD flags, DISPPARAMS* parameters,
-                            VARIANT* result, EXCEPINFO* exception, UINT* argument) {
-    if (!parameters) {
-        return E_POINTER;
-    }
+HRESULT CAutomation::Invoke(DISPID number, REFIID reserved, LCID, WORD flags,
+                            DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+                            UINT* argument) {
     return Enter([&] {
         return InvokeByNumber(static_cast<IKRX8Maintenance*>(this), __uuidof(IKRX8Maintenance),
-                              number, flags, parameters, result, exception, argument);
+                              number, reserved, flags, parameters, result, exception, argument);
     });
 }
 

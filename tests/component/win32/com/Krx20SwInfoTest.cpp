@@ -151,6 +151,29 @@ TEST_F(Krx20SwInfoTest, CallByUnknownNumberIsRefused) {
     EXPECT_EQ(Invoke(3, version), DISP_E_MEMBERNOTFOUND);
 }
 
+TEST_F(Krx20SwInfoTest, NullPointersForDispatchAreRefused) {
+    OLECHAR text[] = L"GetBootLoaderVersion";
+    LPOLESTR name = text;
+    DISPID number = -5;
+    EXPECT_EQ(m_exported->GetIDsOfNames(IID_NULL, nullptr, 1, 0, &number), E_POINTER);
+    EXPECT_EQ(m_exported->GetIDsOfNames(IID_NULL, &name, 1, 0, nullptr), E_POINTER);
+    EXPECT_EQ(
+        m_exported->Invoke(1, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr),
+        E_POINTER);
+}
+
+TEST_F(Krx20SwInfoTest, ReservedIdentifierOtherThanNullIsRefused) {
+    OLECHAR text[] = L"GetBootLoaderVersion";
+    LPOLESTR name = text;
+    DISPID number = -5;
+    EXPECT_EQ(m_exported->GetIDsOfNames(IID_IDispatch, &name, 1, 0, &number),
+              DISP_E_UNKNOWNINTERFACE);
+    DISPPARAMS none{};
+    EXPECT_EQ(
+        m_exported->Invoke(1, IID_IDispatch, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr),
+        DISP_E_UNKNOWNINTERFACE);
+}
+
 TEST_F(Krx20SwInfoTest, ObjectAnswersForDispatch) {
     EXPECT_TRUE(Ask<IDispatch>(m_exported.Get()));
     EXPECT_TRUE(AreOne(Ask<IDispatch>(m_exported.Get()).Get(), m_exported.Get()));

@@ -181,13 +181,13 @@ TEST_F(TypeLibraryTest, NamesOfDualInterfaceHaveTheirNumbers) {
     OLECHAR other[] = L"GetOther";
     LPOLESTR name = bootLoader;
     DISPID number = -1;
-    EXPECT_EQ(FindNames(IID_IKrx20SwInfo, &name, 1, &number), S_OK);
+    EXPECT_EQ(FindNames(IID_IKrx20SwInfo, IID_NULL, &name, 1, &number), S_OK);
     EXPECT_EQ(number, 1);
     name = mode;
-    EXPECT_EQ(FindNames(IID_IKRX8Maintenance, &name, 1, &number), S_OK);
+    EXPECT_EQ(FindNames(IID_IKRX8Maintenance, IID_NULL, &name, 1, &number), S_OK);
     EXPECT_EQ(number, 2);
     name = other;
-    EXPECT_EQ(FindNames(IID_IKrx20SwInfo, &name, 1, &number), DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(FindNames(IID_IKrx20SwInfo, IID_NULL, &name, 1, &number), DISP_E_UNKNOWNNAME);
 }
 
 }

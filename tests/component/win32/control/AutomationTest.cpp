@@ -58,6 +58,18 @@ TEST_F(AutomationTest, UnknownNamesAndNumbersAreRefused) {
               DISP_E_MEMBERNOTFOUND);
 }
 
+TEST_F(AutomationTest, ReservedIdentifierOtherThanNullIsRefused) {
+    DISPID number = 0;
+    auto name = const_cast<LPOLESTR>(L"DeviceType");
+    EXPECT_EQ(Dispatch()->GetIDsOfNames(IID_IDispatch, &name, 1, 0, &number),
+              DISP_E_UNKNOWNINTERFACE);
+    DISPPARAMS none{};
+    component::CVariant value;
+    EXPECT_EQ(Dispatch()->Invoke(1, IID_IDispatch, 0, DISPATCH_PROPERTYGET, &none, value.Receive(),
+                                 nullptr, nullptr),
+              DISP_E_UNKNOWNINTERFACE);
+}
+
 TEST_F(AutomationTest, TypeInformationDescribesTheDualInterface) {
     UINT count = 0;
     EXPECT_EQ(Dispatch()->GetTypeInfoCount(&count), S_OK);
