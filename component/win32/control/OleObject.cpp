@@ -125,6 +125,9 @@ HRESULT COleObject::SetExtent(DWORD aspect, SIZEL* extent) {
     if (!extent) {
         return E_POINTER;
     }
+    if (extent->cx < 0 || extent->cy < 0) {
+        return E_INVALIDARG;
+    }
     return Enter([&] {
         m_site.SetExtent(*extent);
         m_site.TellViewChanged();

@@ -35,6 +35,18 @@ TEST_F(OleObjectTest, ExtentSetIsTheOneTold) {
     EXPECT_EQ(seen.cx, 20000);
 }
 
+TEST_F(OleObjectTest, ExtentBelowNothingIsRefused) {
+    SIZEL before{};
+    Object()->GetExtent(DVASPECT_CONTENT, &before);
+    for (SIZEL extent : {SIZEL{-1, 10000}, SIZEL{20000, -1}}) {
+        EXPECT_EQ(Object()->SetExtent(DVASPECT_CONTENT, &extent), E_INVALIDARG);
+    }
+    SIZEL told{};
+    EXPECT_EQ(Object()->GetExtent(DVASPECT_CONTENT, &told), S_OK);
+    EXPECT_EQ(told.cx, before.cx);
+    EXPECT_EQ(told.cy, before.cy);
+}
+
 TEST_F(OleObjectTest, OtherAspectsHaveNoExtent) {
     SIZEL extent{20000, 10000};
     EXPECT_EQ(Object()->SetExtent(DVASPECT_ICON, &extent), DV_E_DVASPECT);
