@@ -83,10 +83,8 @@ STDAPI DllGetClassObject(REFCLSID classIdentifier, REFIID interfaceIdentifier, v
 
 STDAPI DllCanUnloadNow() { return component::Module().IsInUse() ? S_FALSE : S_OK; }
 
-BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* isProcessEnding) {
-    if (reason == DLL_PROCESS_ATTACH) {
-        DisableThreadLibraryCalls(module);
-    } else if (reason == DLL_PROCESS_DETACH && !isProcessEnding) {
+BOOL WINAPI DllMain(HINSTANCE, DWORD reason, void* isProcessEnding) {
+    if (reason == DLL_PROCESS_DETACH && !isProcessEnding) {
         component::ForgetControlWindows();
         win32::ForgetActivationContext();
     }
