@@ -89,7 +89,7 @@ std::shared_ptr<contract::IPanel> CreatePanel(const std::string& programIdentifi
         std::shared_ptr<contract::IPanelFactory> factory;
         Status status = library.GetFactory(entry.classIdentifier, factory);
         std::shared_ptr<contract::IPanel> panel;
-        if (status.IsSuccess()) {
+        if (status.IsSuccess() && factory) {
             status = factory->CreatePanel(panel);
         }
         if (!panel) {

@@ -74,6 +74,19 @@ TEST_F(ComponentLibraryTest, LibraryThatIsNoComponentIsNamed) {
                                       "function DllGetClassObject; "));
 }
 
+TEST_F(ComponentLibraryTest, ComponentThatDeliversNoFactoryIsNamedWithWhatToDo) {
+    m_registry.Register(KRX8_EMPTY_COMPONENT);
+    EXPECT_EQ(Problem(), "QRZ.KRX8Maintenance: " KRX8_EMPTY_COMPONENT
+                         " makes no panel (0x00000000); if the component has been moved, register "
+                         "the component with: krx8-register FOLDER/cmn_krx8maintenanceui.so");
+}
+
+TEST_F(ComponentLibraryTest, ComponentThatDeliversNoPanelIsNamed) {
+    m_registry.Register(KRX8_EMPTY_COMPONENT, "{335783FE-1F74-487E-8561-9E890047927A}");
+    EXPECT_THAT(Problem(), StartsWith("QRZ.KRX8Maintenance: " KRX8_EMPTY_COMPONENT
+                                      " makes no panel (0x00000000); "));
+}
+
 TEST_F(ComponentLibraryTest, UnknownClassIsNotAvailable) {
     std::shared_ptr<contract::IPanelFactory> factory;
     EXPECT_EQ(m_library.GetFactory({1, 2, 3, {}}, factory), Status::FromBits(0x80040111));

@@ -17,14 +17,13 @@ public:
 
     std::string Path() const { return (m_folder.Path() / "registry.json").string(); }
 
-    /// Writes a catalogue that names `library`.
-    void Register(const std::string& library) const {
+    /// Writes a catalogue that names `library`, with a class of it.
+    void Register(const std::string& library,
+                  const std::string& classText = "{235783FE-1F74-487E-8561-9E890047927A}") const {
         m_folder.Write("registry.json",
-                       R"({ "SOFTWARE/Classes/QRZ.KRX8Maintenance/CLSID":
-                            { "": "{235783FE-1F74-487E-8561-9E890047927A}" },
-                            "SOFTWARE/Classes/CLSID/{235783FE-1F74-487E-8561-9E890047927A}/)"
-                       R"(InprocServer32": { "": ")" +
-                           library + "\" } }");
+                       R"({ "SOFTWARE/Classes/QRZ.KRX8Maintenance/CLSID": { "": ")" + classText +
+                           R"(" }, "SOFTWARE/Classes/CLSID/)" + classText +
+                           R"(/InprocServer32": { "": ")" + library + "\" } }");
     }
 
 private:
