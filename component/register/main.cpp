@@ -50,8 +50,10 @@ int Run(const Options& options) {
         options.isUnregister ? library.Unregister() : library.Register();
     const std::string catalogue = registry::FindRegistryFile();
     if (status.IsFailure()) {
-        std::fprintf(stderr, "krx8-register: %s cannot be changed (0x%08x)%s\n", catalogue.c_str(),
-                     static_cast<unsigned>(status.Code()), contract::TakeErrorInfo().c_str());
+        const std::string reason = contract::TakeErrorInfo();
+        std::fprintf(stderr, "krx8-register: %s cannot be changed (0x%08x)%s%s\n",
+                     catalogue.c_str(), static_cast<unsigned>(status.Code()),
+                     reason.empty() ? "" : ": ", reason.c_str());
         return kFailed;
     }
     std::printf("%s is %s %s\n", file.c_str(),

@@ -75,6 +75,13 @@ TEST_F(RegisterProgramTest, CatalogueThatIsDamagedIsNamedAndStaysAsItIs) {
     EXPECT_EQ(Catalogue(), "{ damaged");
 }
 
+TEST_F(RegisterProgramTest, ReasonThatTheComponentGivesFollowsTheStatus) {
+    const Outcome outcome = StartProgram(KRX8_EMPTY_COMPONENT);
+    EXPECT_EQ(outcome.output, "krx8-register: " + m_registry.Path() +
+                                  " cannot be changed (0x80004005): there is no room\n");
+    EXPECT_EQ(outcome.status, 1);
+}
+
 TEST_F(RegisterProgramTest, WrongCommandLineIsAnsweredByTheUsage) {
     for (const char* arguments : {"", "--unregister", "--colour", "a.so b.so"}) {
         const Outcome outcome = StartProgram(arguments);
