@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <limits>
+#include <optional>
 #include <set>
 #include <string_view>
 #include <utility>
@@ -38,12 +39,12 @@ public:
         return true;
     }
 
-    /// The name that stands twice; empty when none does.
-    const std::string& Repeated() const { return m_repeated; }
+    /// The name that stands twice, which may be empty; nothing when none does.
+    const std::optional<std::string>& Repeated() const { return m_repeated; }
 
 private:
     std::vector<std::set<std::string>> m_names;
-    std::string m_repeated;
+    std::optional<std::string> m_repeated;
 };
 
 std::string FindFault(const Settings& settings) {
@@ -73,8 +74,8 @@ std::string ParseSettings(const std::string& text, Settings& settings) {
     } catch (const Settings::exception& fault) {
         return fault.what();
     }
-    if (!repeats.Repeated().empty()) {
-        return "\"" + repeats.Repeated() + "\" stands twice";
+    if (repeats.Repeated()) {
+        return "\"" + *repeats.Repeated() + "\" stands twice";
     }
     std::string fault = FindFault(parsed);
     if (fault.empty()) {

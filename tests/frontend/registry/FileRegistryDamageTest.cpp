@@ -83,7 +83,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Damage{R"({"A": {"b": 4294967296}})", R"("b" is neither a text nor)"},
                     Damage{R"({"A": {"b": {}}})", R"("b" is neither a text nor)"},
                     Damage{R"({"A": {"b": 1, "b": 2}})", R"("b" stands twice)"},
-                    Damage{R"({"A": {"b": 1}, "A": {}})", R"("A" stands twice)"}));
+                    Damage{R"({"A": {"b": 1}, "A": {}})", R"("A" stands twice)"},
+                    Damage{R"({"A": {"": 1, "": 2}})", R"("" stands twice)"},
+                    Damage{R"({"": {}, "": {}})", R"("" stands twice)"}));
 
 class FileRegistryStrangeFileTest : public FileRegistryDamageTest {};
 
