@@ -8,8 +8,11 @@ namespace {
 
 QString ToPatterns(const std::string& patterns) {
     QStringList taken;
-    for (const QString& pattern : ToQt(patterns).split(u';', Qt::SkipEmptyParts)) {
-        taken.append(pattern == QStringLiteral("*.*") ? QStringLiteral("*") : pattern.trimmed());
+    for (const QString& part : ToQt(patterns).split(u';')) {
+        const QString pattern = part.trimmed();
+        if (!pattern.isEmpty()) {
+            taken.append(pattern == QStringLiteral("*.*") ? QStringLiteral("*") : pattern);
+        }
     }
     return taken.isEmpty() ? QStringLiteral("*") : taken.join(u' ');
 }

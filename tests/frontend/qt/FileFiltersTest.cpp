@@ -24,6 +24,11 @@ TEST(FileFiltersTest, SeveralPatternsAreKept) {
               QStringList{"Code (*.bin *.hex *.fia)"});
 }
 
+TEST(FileFiltersTest, BlanksAroundAPatternDoNotCount) {
+    EXPECT_EQ(qt::ToNameFilters({{"Code", "*.bin; *.* "}}), QStringList{"Code (*.bin *)"});
+    EXPECT_EQ(qt::ToNameFilters({{"Everything", " ; "}}), QStringList{"Everything (*)"});
+}
+
 TEST(FileFiltersTest, PercentSignsStayAsTheyAre) {
     EXPECT_EQ(qt::ToNameFilters({{"100 %1 %2", "*.a"}}), QStringList{"100 %1 %2 (*.a)"});
 }
