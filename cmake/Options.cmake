@@ -3,6 +3,7 @@ set(KRX8_LIBRARY_FOLDER lib/krx8)
 
 option(KRX8_TESTS "Build the tests" ON)
 option(KRX8_BENCH "Build the benchmarks" OFF)
+option(KRX8_FUZZ "Build the fuzzers, which need clang" OFF)
 set(KRX8_SANITIZE "" CACHE STRING "Sanitizers, as in -fsanitize=")
 option(KRX8_COVERAGE "Count how often each line and branch runs" OFF)
 
@@ -41,4 +42,8 @@ if(KRX8_SANITIZE)
   add_link_options(-fsanitize=${KRX8_SANITIZE})
 elseif(KRX8_COVERAGE)
   add_link_options(--coverage)
+endif()
+
+if(KRX8_FUZZ AND NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  message(FATAL_ERROR "The fuzzers are built by clang++, as in the preset fuzz.")
 endif()
