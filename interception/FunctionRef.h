@@ -6,15 +6,17 @@
 
 namespace interception {
 
-template <class Signature> class FunctionRef;
+template <class Signature>
+class FunctionRef;
 
 /// A callable that is borrowed for the length of a call: no copy and no allocation, so that a
 /// forwarded operation costs a few nanoseconds.
-template <class Result, class... Arguments> class FunctionRef<Result(Arguments...)> {
+template <class Result, class... Arguments>
+class FunctionRef<Result(Arguments...)> {
 public:
     template <class Callable>
-        requires(!std::is_same_v<std::remove_cvref_t<Callable>, FunctionRef>)
-    FunctionRef(Callable&& callable)
+    requires(!std::is_same_v<std::remove_cvref_t<Callable>, FunctionRef>)
+        FunctionRef(Callable&& callable)
         : m_callable(const_cast<void*>(static_cast<const void*>(std::addressof(callable)))),
           m_call([](void* target, Arguments... arguments) -> Result {
               return (*static_cast<std::remove_reference_t<Callable>*>(target))(
