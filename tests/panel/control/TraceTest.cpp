@@ -18,13 +18,6 @@ TEST(TraceTest, LinesExistInDebugBuildsOnly) {
         EXPECT_THAT(toolkit.Desktop()->traceLines, ElementsAre("CPanel::Handler: key 0x2E of 7"));
     } else {
         EXPECT_THAT(toolkit.Desktop()->traceLines, IsEmpty());
-        TEST(TraceTest, LineWithoutArgumentsIsWrittenAsItIs) {
-            headless::CHeadlessToolkit toolkit;
-            Trace(toolkit, "100% of it\n");
-            if (kTraceLines) {
-                EXPECT_THAT(toolkit.Desktop()->traceLines, ElementsAre("100% of it"));
-            }
-        }
     }
 }
 
