@@ -2,6 +2,7 @@
 
 #include "frontend/win32/Barrier.h"
 #include "frontend/win32/Text.h"
+#include "frontend/win32/WindowText.h"
 
 #include <limits>
 
@@ -24,13 +25,6 @@ Selection SelectionOf(HWND edit) {
 }
 
 DWORD LengthOf(HWND window) { return static_cast<DWORD>(GetWindowTextLengthW(window)); }
-
-std::wstring WideTextOf(HWND window) {
-    std::wstring text(LengthOf(window) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
 
 // Limits of 0 and of all there is are the system's words for none.
 DWORD RoomIn(HWND edit) {

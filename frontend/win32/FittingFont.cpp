@@ -1,5 +1,7 @@
 #include "frontend/win32/FittingFont.h"
 
+#include "frontend/win32/WindowText.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <string>
@@ -51,13 +53,6 @@ private:
     const HGDIOBJ m_previous;
 };
 
-std::wstring TextOf(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
 SIZE ClientOf(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
@@ -68,18 +63,18 @@ SIZE ClientOf(HWND window) {
 bool LabelFits(HWND label, const CMeasure& measure, int usualLine) {
     const SIZE client = ClientOf(label);
     const int room = std::max(1, (static_cast<int>(client.cy) + usualLine / 2) / usualLine);
-    const SIZE text = measure.SizeOf(TextOf(label), std::max(1, static_cast<int>(client.cx)));
+    const SIZE text = measure.SizeOf(WideTextOf(label), std::max(1, static_cast<int>(client.cx)));
     return text.cx <= client.cx && text.cy / measure.LineHeight() <= room;
 }
 
 bool FieldFits(HWND field, const CMeasure& measure) {
     RECT room{};
     SendMessageW(field, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));
-    return measure.WidthOf(TextOf(field)) <= room.right - room.left;
+    return measure.WidthOf(WideTextOf(field)) <= room.right - room.left;
 }
 
 bool CaptionFits(HWND button, const CMeasure& measure, int margin) {
-    return measure.SizeOf(TextOf(button), 0).cx <= ClientOf(button).cx - margin;
+    return measure.SizeOf(WideTextOf(button), 0).cx <= ClientOf(button).cx - margin;
 }
 
 bool IsFitted(ControlKind kind) {

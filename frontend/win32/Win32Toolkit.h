@@ -22,7 +22,11 @@ public:
     explicit CWin32Toolkit(FocusRule mayTakeFocus = {});
     ~CWin32Toolkit() override;
 
-    /// `nativeParent` is an HWND.
+    /// `nativeParent` is an HWND of this thread. The view is a child of it, with
+    /// WS_EX_CONTROLPARENT; F1 needs nothing of the host's message loop. Given the focus, it hands
+    /// it on to one of its controls. A view that is destroyed inside one of its own notifications
+    /// ends its window with the next messages, so a library stays loaded until they have been
+    /// handled.
     std::unique_ptr<panel::IView> CreateView(const panel::DialogTemplate& dialogTemplate,
                                              void* nativeParent,
                                              panel::IDialogHandler& handler) override;

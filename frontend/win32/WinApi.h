@@ -1,8 +1,8 @@
 #pragma once
 
-// The system's headers, included here and nowhere else, so that their macros can be kept away from
-// methods of the same name: a method that one source calls DeleteFile and another DeleteFileW would
-// be two.
+// The system's headers, which frontend/ and component/ include here and nowhere else, so that their
+// macros can be kept away from methods of the same name: a method that one source calls DeleteFile
+// and another DeleteFileW would be two.
 #include <windows.h>
 
 #include <cderr.h>

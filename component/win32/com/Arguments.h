@@ -18,9 +18,8 @@ namespace component {
 /// - `Com`, its type in the COM interface;
 /// - `Outgoing`, for a call from the contract to COM: made of the contract's argument, it gives
 ///   COM's with Get and, after success, brings back what was delivered with Deliver;
-/// - `Incoming`, the same for a call from COM to the contract, with IsValid for what COM callers
-/// may
-///   pass wrongly: null pointers, or what fails with `kRefusal` where there is one.
+/// - `Incoming`, the same for a call from COM to the contract, with IsValid for what callers in COM
+///   may pass wrongly: null pointers, or what fails with `kRefusal` where there is one.
 template <class Parameter>
 struct Crossing;
 

@@ -29,10 +29,4 @@ SIZEL ToHimetric(SIZE pixels) {
             MulDiv(pixels.cy, kHimetricPerInch, screen.PixelsPerInchDown())};
 }
 
-SIZE ToPixels(SIZEL himetric) {
-    const CScreen screen;
-    return {MulDiv(himetric.cx, screen.PixelsPerInchAcross(), kHimetricPerInch),
-            MulDiv(himetric.cy, screen.PixelsPerInchDown(), kHimetricPerInch)};
-}
-
 }

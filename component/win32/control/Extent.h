@@ -4,8 +4,7 @@
 
 namespace component {
 
-/// Sizes in the unit of OLE, a hundredth of a millimetre, and in pixels of the screen.
+/// A size in pixels of the screen, in the unit of OLE, a hundredth of a millimetre.
 SIZEL ToHimetric(SIZE pixels);
-SIZE ToPixels(SIZEL himetric);
 
 }

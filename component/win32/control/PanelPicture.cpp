@@ -2,6 +2,7 @@
 
 #include "frontend/win32/Font.h"
 #include "frontend/win32/Text.h"
+#include "frontend/win32/WindowText.h"
 #include "panel/control/PanelTemplate.h"
 
 #include <algorithm>
@@ -73,13 +74,7 @@ private:
 
 std::wstring TextOf(const ControlTemplate& control, HWND view) {
     const HWND window = view ? GetDlgItem(view, control.id) : nullptr;
-    if (!window) {
-        return win32::ToWide(control.text);
-    }
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
+    return window ? win32::WideTextOf(window) : win32::ToWide(control.text);
 }
 
 void Draw(const CDrawing& drawing, const ControlTemplate& control, RECT area, HWND view) {

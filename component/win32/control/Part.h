@@ -45,8 +45,6 @@ protected:
         return Guarded(__uuidof(Interface), std::move(operation));
     }
 
-    IControl& Owner() const { return m_control; }
-
 private:
     IControl& m_control;
 };

@@ -1,10 +1,10 @@
 // What only the toolkit of the system's own windows can get wrong.
 
 #include "frontend/win32/Text.h"
-#include "frontend/win32/Win32Panel.h"
 #include "frontend/win32/Win32View.h"
 #include "tests/frontend/conformance/RecordingHandler.h"
 #include "tests/frontend/win32/Input.h"
+#include "tests/frontend/win32/Panel.h"
 #include "tests/frontend/win32/Win32FrontEndDriver.h"
 #include "tests/simulator/TemporaryFolder.h"
 
@@ -154,7 +154,7 @@ TEST_F(Win32ToolkitTest, ComponentFolderIsThatOfTheProgram) {
 
 TEST_F(Win32ToolkitTest, PanelHasItsNaturalSizeAndFollowsItsHost) {
     const CHostWindow host;
-    const auto panel = win32::CreateWin32Panel();
+    const auto panel = MakePanel();
     ASSERT_TRUE(panel->CreateView(host.Get()).IsSuccess());
     const HWND view = ::GetWindow(host.Get(), GW_CHILD);
     RECT area{};
@@ -170,7 +170,7 @@ TEST_F(Win32ToolkitTest, PanelHasItsNaturalSizeAndFollowsItsHost) {
 TEST_F(Win32ToolkitTest, TwoHundredPanelsLeaveNoWindow) {
     const CHostWindow host;
     for (int count = 0; count < 200; ++count) {
-        const auto panel = win32::CreateWin32Panel();
+        const auto panel = MakePanel();
         ASSERT_TRUE(panel->CreateView(host.Get()).IsSuccess());
         ASSERT_NE(::GetWindow(host.Get(), GW_CHILD), nullptr);
         panel->DestroyView();

@@ -3,29 +3,16 @@
 #include "component/win32/com/Identifiers.h"
 #include "tests/support/win32/MessageServiceClass.h"
 
-#include <gtest/gtest.h>
-
 namespace support {
 
 struct CBorder::Bridge {
-    Bridge() {
-        EXPECT_EQ(CoRegisterClassObject(CLSID_MessageService, services.Get(), CLSCTX_INPROC_SERVER,
-                                        REGCLS_MULTIPLEUSE, &registration),
-                  S_OK);
-    }
-    ~Bridge() { EXPECT_EQ(CoRevokeClassObject(registration), S_OK); }
-    Bridge(const Bridge&) = delete;
-    Bridge& operator=(const Bridge&) = delete;
-
     template <class Interface>
     std::shared_ptr<Interface> Cross(const std::shared_ptr<Interface>& object) {
         return com->Import<Interface>(com->Export(object).Get());
     }
 
     const std::shared_ptr<component::CBridge> com = std::make_shared<component::CBridge>();
-    const component::ComPtr<CMessageServiceClass> services =
-        component::MakeCom<CMessageServiceClass>(com);
-    DWORD registration = 0;
+    CMessageServices services{com};
 };
 
 CBorder::CBorder() : m_bridge(std::make_unique<Bridge>()) {}
@@ -34,7 +21,7 @@ CBorder::~CBorder() = default;
 
 std::shared_ptr<contract::IContext>
 CBorder::Cross(const std::shared_ptr<contract::IContext>& object) {
-    m_bridge->services->context = object;
+    m_bridge->services.SetContext(object);
     return m_bridge->Cross(object);
 }
 

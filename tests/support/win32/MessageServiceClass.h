@@ -5,6 +5,8 @@
 #include "component/win32/com/ComObject.h"
 #include "contract/host/Context.h"
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <utility>
 
@@ -43,6 +45,29 @@ private:
     const std::shared_ptr<component::CBridge> m_bridge;
 
     KRX8_COUNTED_REFERENCES(CMessageServiceClass)
+};
+
+/// Has that class registered in this process while it lives.
+class CMessageServices {
+public:
+    explicit CMessageServices(const std::shared_ptr<component::CBridge>& bridge)
+        : m_class(component::MakeCom<CMessageServiceClass>(bridge)) {
+        EXPECT_EQ(CoRegisterClassObject(CLSID_MessageService, m_class.Get(), CLSCTX_INPROC_SERVER,
+                                        REGCLS_MULTIPLEUSE, &m_registration),
+                  S_OK);
+    }
+    ~CMessageServices() { EXPECT_EQ(CoRevokeClassObject(m_registration), S_OK); }
+    CMessageServices(const CMessageServices&) = delete;
+    CMessageServices& operator=(const CMessageServices&) = delete;
+
+    /// The context is asked from now on.
+    void SetContext(const std::shared_ptr<contract::IContext>& context) {
+        m_class->context = context;
+    }
+
+private:
+    const component::ComPtr<CMessageServiceClass> m_class;
+    DWORD m_registration = 0;
 };
 
 }

@@ -1,11 +1,14 @@
 // Objects used from another apartment than their own, to which the system brings calls over as the
 // registered type library tells it.
 
+#include "tests/support/win32/Apartment.h"
 #include "component/win32/com/Identifiers.h"
 #include "component/win32/com/TypeLibrary.h"
 #include "frontend/win32/Module.h"
 #include "tests/component/win32/com/BridgeFixture.h"
+#include "tests/component/win32/com/EventDoubles.h"
 #include "tests/component/win32/com/PanelTargets.h"
+#include "tests/interception/ControlTargets.h"
 #include "tests/interception/HostTargets.h"
 
 #include <functional>
@@ -47,24 +50,8 @@ protected:
                   S_OK);
         return object;
     }
-    /// Runs on a thread in an apartment of its own, while this one answers calls.
     static void RunElsewhere(const std::function<void()>& action) {
-        const HANDLE end = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-        std::thread thread([&] {
-            EXPECT_EQ(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK);
-            action();
-            CoUninitialize();
-            SetEvent(end);
-        });
-        MSG message;
-        while (MsgWaitForMultipleObjects(1, &end, FALSE, INFINITE, QS_ALLINPUT) ==
-               WAIT_OBJECT_0 + 1) {
-            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-                DispatchMessageW(&message);
-            }
-        }
-        thread.join();
-        CloseHandle(end);
+        support::RunInApartment(COINIT_APARTMENTTHREADED, action);
     }
 
     ComPtr<ITypeLib> m_library;
@@ -108,6 +95,50 @@ TEST_F(ApartmentTest, ViewIsClosedByThePanel) {
     RunElsewhere([&] { result = Receive<IHostViewControl>(stream)->ClosePanel(); });
     EXPECT_EQ(result, S_OK);
     EXPECT_EQ(target->exchange.received.size(), 1u);
+}
+
+TEST_F(ApartmentTest, DeliveredDeviceIsUsedThere) {
+    const auto control = interception::MakeTarget<contract::IProgrammingDeviceControl>();
+    const auto subsystem = interception::MakeTarget<contract::IProgrammingDeviceSubsystem>();
+    subsystem->exchange.object = control;
+    IStream* const stream = Send(Export<contract::IProgrammingDeviceSubsystem>(subsystem));
+    RunElsewhere([&] {
+        const auto foreign = Receive<IProgrammingDeviceSubsystem>(stream);
+        ComPtr<IProgrammingDeviceControl> delivered;
+        ASSERT_EQ(foreign->get_ProgrammingDeviceControl(delivered.GetAddressOf()), S_OK);
+        EXPECT_EQ(delivered->DeleteFile(22, 3), S_OK);
+    });
+    ASSERT_EQ(control->exchange.received.size(), 1u);
+    EXPECT_EQ(control->exchange.received[0].arguments, "22;3;");
+}
+
+TEST_F(ApartmentTest, EventInsideACallOfTheDeviceIsHeardThere) {
+    const auto source = std::make_shared<simulator::CEventSource<DeviceEvents>>();
+    const auto control = MakeObjectWith<contract::IProgrammingDeviceControl>(source);
+    IStream* const stream = Send(Export<contract::IProgrammingDeviceControl>(control));
+    std::vector<std::string> heard;
+    RunElsewhere([&] {
+        const auto foreign = Receive<IProgrammingDeviceControl>(stream);
+        ComPtr<IConnectionPoint> point;
+        ASSERT_EQ(Ask<IConnectionPointContainer>(foreign.Get())
+                      ->FindConnectionPoint(__uuidof(::_IProgrammingDeviceControlEvents),
+                                            point.GetAddressOf()),
+                  S_OK);
+        const auto sink = MakeCom<CDispatchDouble>();
+        sink->eventInterface = __uuidof(::_IProgrammingDeviceControlEvents);
+        DWORD cookie = 0;
+        ASSERT_EQ(point->Advise(sink.Get(), &cookie), S_OK);
+        control->exchange.whileCalled = [&] {
+            source->RaiseToAll([](DeviceEvents& events) {
+                return events.DeviceMessage("Löschen", 1, 0xFFFFFFFF);
+            });
+        };
+        EXPECT_EQ(foreign->DeleteFile(22, 3), S_OK);
+        EXPECT_EQ(point->Unadvise(cookie), S_OK);
+        heard = sink->events;
+    });
+    EXPECT_EQ(heard, std::vector<std::string>{"2 BSTR:Löschen UI4:1 UI4:4294967295"});
+    EXPECT_EQ(source->SubscriberCount(), 0u);
 }
 
 }

@@ -1,8 +1,9 @@
-#include "component/win32/com/Import.h"
-
 #include "tests/component/win32/com/BridgeFixture.h"
 #include "tests/interception/HostTargets.h"
 #include "tests/support/HostDoubles.h"
+#include "tests/support/win32/MessageServiceClass.h"
+
+#include <optional>
 
 namespace component {
 
@@ -10,44 +11,14 @@ namespace {
 
 using contract::Status;
 
-/// Makes the message services of a host: hands the same one out each time.
-class CServiceFactory final : public IClassFactory {
-public:
-    explicit CServiceFactory(ComPtr<IUnknown> service) : m_service(std::move(service)) {}
-
-    int created = 0;
-    HRESULT result = S_OK;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** answer) override {
-        return AnswerQuery<IClassFactory>(this, identifier, answer);
-    }
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID identifier, void** answer) override {
-        ++created;
-        return FAILED(result) ? result : m_service->QueryInterface(identifier, answer);
-    }
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
-
-private:
-    const ComPtr<IUnknown> m_service;
-
-    KRX8_COUNTED_REFERENCES(CServiceFactory)
-};
-
 class MessageServiceTest : public BridgeFixture {
 protected:
-    ~MessageServiceTest() override {
-        if (m_registration != 0) {
-            EXPECT_EQ(CoRevokeClassObject(m_registration), S_OK);
-        }
+    void RegisterService() {
+        m_host->exchange.object = std::shared_ptr<contract::IMessageService>(m_service);
+        m_services.emplace(m_bridge);
+        m_services->SetContext(m_host);
     }
-
-    ComPtr<CServiceFactory> RegisterService(const ComPtr<IUnknown>& service) {
-        auto factory = MakeCom<CServiceFactory>(service);
-        EXPECT_EQ(CoRegisterClassObject(CLSID_MessageService, factory.Get(), CLSCTX_INPROC_SERVER,
-                                        REGCLS_MULTIPLEUSE, &m_registration),
-                  S_OK);
-        return factory;
-    }
+    std::size_t ServicesMade() const { return m_host->exchange.received.size(); }
     std::shared_ptr<contract::IContext> MakeContext() {
         return RoundTrip<contract::IContext>(interception::MakeTarget<contract::IContext>());
     }
@@ -58,27 +29,32 @@ protected:
 
     std::shared_ptr<support::CMessageServiceDouble> m_service =
         std::make_shared<support::CMessageServiceDouble>();
-    DWORD m_registration = 0;
+    /// Asked for each service that is made.
+    const std::shared_ptr<interception::CTarget<contract::IContext>> m_host =
+        interception::MakeTarget<contract::IContext>();
+
+private:
+    std::optional<support::CMessageServices> m_services;
 };
 
 TEST_F(MessageServiceTest, RegisteredServiceIsFoundByItsClass) {
-    const auto factory = RegisterService(Export<contract::IMessageService>(m_service));
+    RegisterService();
     std::shared_ptr<contract::IMessageService> found;
     ASSERT_EQ(MakeContext()->QueryMessageService(found), contract::kSuccess);
     ASSERT_NE(found, nullptr);
-    EXPECT_EQ(factory->created, 1);
+    EXPECT_EQ(ServicesMade(), 1u);
     std::int32_t button = 0;
     EXPECT_EQ(found->ShowMessage({}, button), contract::kSuccess);
     EXPECT_EQ(m_service->shown.size(), 1u);
 }
 
 TEST_F(MessageServiceTest, ServiceIsMadeAnewForEachQuery) {
-    const auto factory = RegisterService(Export<contract::IMessageService>(m_service));
+    RegisterService();
     const auto context = MakeContext();
     std::shared_ptr<contract::IMessageService> found;
     ASSERT_EQ(context->QueryMessageService(found), contract::kSuccess);
     ASSERT_EQ(context->QueryMessageService(found), contract::kSuccess);
-    EXPECT_EQ(factory->created, 2);
+    EXPECT_EQ(ServicesMade(), 2u);
 }
 
 TEST_F(MessageServiceTest, HostWithoutServiceSaysSo) {
@@ -88,17 +64,16 @@ TEST_F(MessageServiceTest, HostWithoutServiceSaysSo) {
 }
 
 TEST_F(MessageServiceTest, FailingFactoryPassesItsStatus) {
-    const auto factory = RegisterService(Export<contract::IMessageService>(m_service));
-    factory->result = -77;
+    RegisterService();
+    m_host->exchange.status = Status(-77);
     std::shared_ptr<contract::IMessageService> found;
     EXPECT_EQ(MakeContext()->QueryMessageService(found), Status(-77));
     EXPECT_EQ(found, nullptr);
 }
 
-TEST_F(MessageServiceTest, ClassOfAnotherKindIsNoInterface) {
-    const auto file =
-        Export<contract::IHostViewControl>(interception::MakeTarget<contract::IHostViewControl>());
-    RegisterService(file);
+TEST_F(MessageServiceTest, ClassThatMakesNoMessageServiceIsNoInterface) {
+    RegisterService();
+    m_host->exchange.status = contract::kNoSuchInterface;
     std::shared_ptr<contract::IMessageService> found;
     EXPECT_EQ(MakeContext()->QueryMessageService(found), contract::kNoSuchInterface);
     EXPECT_EQ(found, nullptr);

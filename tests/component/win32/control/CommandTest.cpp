@@ -4,6 +4,7 @@
 
 #include "panel/control/PanelTemplate.h"
 #include "panel/files/MenuContents.h"
+#include "panel/files/PhoneFileUploadTemplate.h"
 #include "panel/netconf/KRX10ConfTemplate.h"
 #include "tests/frontend/win32/Input.h"
 #include "tests/simulator/TemporaryFolder.h"
@@ -106,6 +107,31 @@ TEST_F(CommandTest, NetworkDialogSendsItsValuesAfterOk) {
                 testing::IsSupersetOf({"SetIpAddress(0x0700A8C0)", "SetSubnetMask(0x00FFFFFF)",
                                        "SetGateway(0xFE00A8C0)", "SetDescription(bench 4)",
                                        "ApplyConfiguration()"}));
+}
+
+TEST_F(CommandTest, NetworkDialogFormatsTheMediaThatAreTicked) {
+    prompts.ExpectDialog([&](conformance::IViewUser& user) {
+        EXPECT_TRUE(user.Toggle(panel::kInternalFlashBox));
+        EXPECT_TRUE(user.Toggle(panel::kPcCardBox));
+        EXPECT_TRUE(user.Press(kOk));
+    });
+    EXPECT_TRUE(Press(panel::kNetworkButton));
+    EXPECT_THAT(DeviceCalls(),
+                testing::IsSupersetOf({"PrepareMedia(1)", "PrepareMedia(2)", "ApplyConfiguration()",
+                                       "RequestMode(1)", "RerunMediaTests(0x00012000)"}));
+}
+
+TEST_F(CommandTest, PhoneFileIsUploadedAsItsOptionsSay) {
+    const simulator::CTemporaryFolder folder;
+    folder.Write("phone.fia", "1");
+    prompts.ExpectMenu(static_cast<int>(panel::FileContextMenuCommand::UploadPhoneFile));
+    prompts.ExpectFileDialog([&](conformance::IFileDialogUser& user) {
+        EXPECT_TRUE(user.Options().Choose(panel::kUploadMethodList, "Force"));
+        EXPECT_TRUE(user.Options().Choose(panel::kUploadDestinationList, "Flash"));
+        EXPECT_TRUE(user.Accept(folder.PathOf("phone.fia")));
+    });
+    EXPECT_TRUE(User().RightClickRow(panel::kFileList, 0));
+    EXPECT_EQ(DeviceCalls(), Calls{"UploadPhoneFile(" + folder.PathOf("phone.fia") + ", 2, 1)"});
 }
 
 TEST_F(CommandTest, HelpButtonShowsTheHelpUntilTheControlEnds) {

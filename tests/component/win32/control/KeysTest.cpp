@@ -4,7 +4,6 @@
 #include "tests/frontend/win32/Input.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace controltests {
 
@@ -13,34 +12,6 @@ namespace {
 using Keys = std::vector<OfferedKey>;
 
 constexpr DWORD kShift = 1;
-
-/// A keyboard whose layout has no Latin letters, as that of Greek: VkKeyScan finds no key of them.
-class CKeyboardWithoutLatin {
-public:
-    CKeyboardWithoutLatin() {
-        VirtualProtect(m_code, sizeof kFindsNothing, PAGE_EXECUTE_READWRITE, &m_protection);
-        std::memcpy(m_saved, m_code, sizeof kFindsNothing);
-        std::memcpy(m_code, kFindsNothing, sizeof kFindsNothing);
-        FlushInstructionCache(GetCurrentProcess(), m_code, sizeof kFindsNothing);
-    }
-    ~CKeyboardWithoutLatin() {
-        std::memcpy(m_code, m_saved, sizeof kFindsNothing);
-        VirtualProtect(m_code, sizeof kFindsNothing, m_protection, &m_protection);
-        FlushInstructionCache(GetCurrentProcess(), m_code, sizeof kFindsNothing);
-    }
-    CKeyboardWithoutLatin(const CKeyboardWithoutLatin&) = delete;
-    CKeyboardWithoutLatin& operator=(const CKeyboardWithoutLatin&) = delete;
-
-private:
-    // mov eax, -1 and the return that takes the argument of a 32-bit call off the stack.
-    static constexpr unsigned char kFindsNothing[] = {
-        0xB8, 0xFF, 0xFF, 0xFF, 0xFF, sizeof(void*) == 4 ? 0xC2 : 0xC3, 0x04, 0x00};
-
-    void* const m_code =
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "VkKeyScanW"));
-    unsigned char m_saved[sizeof kFindsNothing] = {};
-    DWORD m_protection = 0;
-};
 
 class KeysTest : public ControlFixture {
 protected:
@@ -114,6 +85,14 @@ TEST_F(KeysTest, ArrowsMoveAmongTheButtons) {
     Focus(panel::kUpdateButton);
     container.Press(VK_RIGHT);
     EXPECT_EQ(Focused(), panel::kDeleteButton);
+}
+
+TEST_F(KeysTest, ContextMenuKeyOpensTheMenuOfTheList) {
+    Focus(panel::kFileList);
+    prompts.ExpectMenu(panel::kNoCommand);
+    container.Press(VK_APPS);
+    EXPECT_EQ(prompts.Menus().size(), 1u);
+    EXPECT_EQ(Focused(), panel::kFileList);
 }
 
 TEST_F(KeysTest, ReturnPressesTheFocusedButton) {
@@ -228,14 +207,6 @@ TEST_F(KeysTest, ControlInfoOfAnOlderSizeIsRefused) {
 
 TEST_F(KeysTest, MnemonicFromTheContainerPressesTheButton) {
     SetFocus(window->Get());
-    MSG key{window->Get(), WM_SYSKEYDOWN, 'C', 0, 0, {}};
-    EXPECT_EQ(container.As<IOleControl>()->OnMnemonic(&key), S_OK);
-    EXPECT_EQ(host->viewControl->closeRequests, 1);
-}
-
-TEST_F(KeysTest, MnemonicsAreKnownWithoutLatinLettersOnTheKeyboard) {
-    const CKeyboardWithoutLatin keyboard;
-    ASSERT_EQ(VkKeyScanW(L'C'), -1);
     MSG key{window->Get(), WM_SYSKEYDOWN, 'C', 0, 0, {}};
     EXPECT_EQ(container.As<IOleControl>()->OnMnemonic(&key), S_OK);
     EXPECT_EQ(host->viewControl->closeRequests, 1);

@@ -2,9 +2,9 @@
 
 #include "tests/component/win32/control/ControlFixture.h"
 
-#include "component/win32/com/ComObject.h"
 #include "contract/ErrorInfo.h"
 #include "panel/control/PanelTemplate.h"
+#include "tests/support/win32/MessageServiceClass.h"
 
 #include <commctrl.h>
 
@@ -12,59 +12,27 @@ namespace controltests {
 
 namespace {
 
-using component::CReferenceCount;
 using support::CMessageServiceDouble;
 using support::Shown;
-
-/// Makes the one message service of a host.
-class CServiceFactory final : public IClassFactory {
-public:
-    CServiceFactory(std::shared_ptr<component::CBridge> bridge,
-                    std::shared_ptr<CMessageServiceDouble> service)
-        : m_bridge(std::move(bridge)), m_service(std::move(service)) {}
-    virtual ~CServiceFactory() = default;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** result) override {
-        return component::AnswerQuery<IClassFactory>(this, identifier, result);
-    }
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID identifier, void** result) override {
-        return m_bridge->Export<contract::IMessageService>(m_service)->QueryInterface(identifier,
-                                                                                      result);
-    }
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
-
-private:
-    const std::shared_ptr<component::CBridge> m_bridge;
-    const std::shared_ptr<CMessageServiceDouble> m_service;
-
-    KRX8_COUNTED_REFERENCES(CServiceFactory)
-};
 
 class MessageServiceFixture : public ControlFixture {
 protected:
     void TearDown() override {
-        Revoke();
+        m_services.reset();
         ControlFixture::TearDown();
     }
 
     void RegisterService() {
-        const auto factory = component::MakeCom<CServiceFactory>(bridge, service);
-        ASSERT_EQ(CoRegisterClassObject(CLSID_MessageService, factory.Get(), CLSCTX_INPROC_SERVER,
-                                        REGCLS_MULTIPLEUSE, &m_registration),
-                  S_OK);
-    }
-    void Revoke() {
-        if (m_registration) {
-            EXPECT_EQ(CoRevokeClassObject(m_registration), S_OK);
-            m_registration = 0;
-        }
+        host->messageService = service;
+        m_services.emplace(bridge);
+        m_services->SetContext(host);
     }
 
     const std::shared_ptr<CMessageServiceDouble> service =
         std::make_shared<CMessageServiceDouble>();
 
 private:
-    DWORD m_registration = 0;
+    std::optional<support::CMessageServices> m_services;
 };
 
 class MessageServiceTest : public MessageServiceFixture {

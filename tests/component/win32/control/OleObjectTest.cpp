@@ -1,6 +1,6 @@
-#include "frontend/win32/Win32Panel.h"
 #include "tests/component/win32/control/ControlFixture.h"
 #include "tests/component/win32/control/Listener.h"
+#include "tests/frontend/win32/Panel.h"
 
 namespace controltests {
 
@@ -16,7 +16,7 @@ protected:
 TEST_F(OleObjectTest, ExtentAtFirstIsThePanelsNaturalSize) {
     SIZEL extent{};
     ASSERT_EQ(Object()->GetExtent(DVASPECT_CONTENT, &extent), S_OK);
-    const contract::PixelSize natural = win32::CreateWin32Panel()->GetNaturalSize();
+    const contract::PixelSize natural = win32tests::MakePanel()->GetNaturalSize();
     const HDC screen = GetDC(nullptr);
     EXPECT_EQ(extent.cx, MulDiv(natural.width, 2540, GetDeviceCaps(screen, LOGPIXELSX)));
     EXPECT_EQ(extent.cy, MulDiv(natural.height, 2540, GetDeviceCaps(screen, LOGPIXELSY)));

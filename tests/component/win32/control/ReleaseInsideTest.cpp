@@ -31,15 +31,15 @@ protected:
     }
 
     void EndControl() { GetParam().act(container); }
-    /// The control ends inside the first call of that name, which then fails.
-    void EndInside(const std::string& call) {
-        host->device->inside = [this, call](const std::string& made) {
+    /// The control ends inside the first call of that name, which then returns `status`.
+    void EndInside(const std::string& call, contract::Status status = contract::kSuccess) {
+        host->device->inside = [this, call, status](const std::string& made) {
             if (made != call) {
                 return contract::kSuccess;
             }
             host->device->inside = {};
             EndControl();
-            return contract::kSuccess;
+            return status;
         };
     }
 };
@@ -60,6 +60,20 @@ TEST_P(ReleaseInsideTest, ADeviceCallOfACommand) {
     EndInside("RequestMode(4)");
     Press(panel::kResetButton);
     EXPECT_EQ(host->device->calls, Calls{"RequestMode(4)"});
+}
+
+TEST_P(ReleaseInsideTest, ADeviceCallThatThenFails) {
+    EndInside("RequestMode(4)", contract::kUnspecifiedFailure);
+    prompts.ExpectBox(kOk);
+    Press(panel::kResetButton);
+    EXPECT_EQ(host->device->calls, Calls{"RequestMode(4)"});
+}
+
+TEST_P(ReleaseInsideTest, AConnectionEventWhoseCallThenFails) {
+    EndInside("GetFileListing", contract::kUnspecifiedFailure);
+    prompts.ExpectBox(kOk);
+    host->RaiseState(7);
+    EXPECT_EQ(container.Window(), nullptr);
 }
 
 TEST_P(ReleaseInsideTest, TheQuestionOfAButton) {

@@ -38,6 +38,11 @@ Status CSmallHost::QueryHostViewControl(std::shared_ptr<contract::IHostViewContr
     return contract::kSuccess;
 }
 
+Status CSmallHost::QueryMessageService(std::shared_ptr<contract::IMessageService>& service) {
+    service = messageService;
+    return service ? contract::kSuccess : contract::kNoSuchInterface;
+}
+
 Status CSmallHost::GetSubsystem(const contract::Guid& identifier,
                                 std::shared_ptr<contract::ISubsystem>& subsystem) {
     if (identifier != contract::kProgrammingDeviceSubsystem &&

@@ -26,6 +26,8 @@ public:
     const std::shared_ptr<CSmallDevice> device = std::make_shared<CSmallDevice>();
     const std::shared_ptr<support::CHostViewControlDouble> viewControl =
         std::make_shared<support::CHostViewControlDouble>();
+    /// Null: the host has none.
+    std::shared_ptr<contract::IMessageService> messageService;
     int memberCount = 0;
     bool isConnected = true;
     bool isPolling = true;
@@ -38,9 +40,7 @@ public:
                     std::uint32_t& cookie) override;
     Status Unregister(std::uint32_t cookie) override;
     Status QueryHostViewControl(std::shared_ptr<contract::IHostViewControl>& control) override;
-    Status QueryMessageService(std::shared_ptr<contract::IMessageService>&) override {
-        return contract::kNoSuchInterface;
-    }
+    Status QueryMessageService(std::shared_ptr<contract::IMessageService>& service) override;
 
     // contract::ISubsystemAccess and ISubsystem
     Status GetSubsystem(const contract::Guid& identifier,

@@ -1,8 +1,7 @@
 #include "tests/component/win32/server/RegisteredFixture.h"
-#include "tests/frontend/win32/Input.h"
+#include "tests/support/win32/Apartment.h"
 
 #include <functional>
-#include <thread>
 
 namespace component {
 
@@ -12,25 +11,6 @@ namespace {
 /// to bring calls over.
 class MarshallingTest : public RegisteredFixture {
 protected:
-    /// Does something on a thread in an apartment of that kind, while this one handles messages.
-    static void RunInApartment(DWORD kind, const std::function<void()>& action) {
-        HANDLE end = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-        std::thread thread([&] {
-            if (SUCCEEDED(CoInitializeEx(nullptr, kind))) {
-                action();
-                CoUninitialize();
-            }
-            SetEvent(end);
-        });
-        // Whoever runs the tests ends them when this takes for ever.
-        while (MsgWaitForMultipleObjects(1, &end, FALSE, INFINITE, QS_ALLINPUT) ==
-               WAIT_OBJECT_0 + 1) {
-            win32tests::Pump();
-        }
-        thread.join();
-        CloseHandle(end);
-    }
-
     /// Hands an interface of the panel to such a thread, which uses it.
     template <class Interface>
     void UseFromApartment(DWORD kind, const std::function<void(Interface&)>& use) {
@@ -40,7 +20,7 @@ protected:
         ASSERT_EQ(CoMarshalInterThreadInterfaceInStream(__uuidof(Interface), own.Get(), &stream),
                   S_OK);
         bool isUsed = false;
-        RunInApartment(kind, [&] {
+        support::RunInApartment(kind, [&] {
             ComPtr<Interface> foreign;
             ASSERT_EQ(CoGetInterfaceAndReleaseStream(stream, IID_PPV_ARGS(foreign.GetAddressOf())),
                       S_OK);
