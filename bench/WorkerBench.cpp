@@ -1,4 +1,5 @@
 #include "interception/Operations.h"
+#include "workstation/QtEventLoop.h"
 #include "workstation/WorkerInterceptor.h"
 
 #include <benchmark/benchmark.h>
@@ -6,6 +7,7 @@
 #include <QApplication>
 
 #include <chrono>
+#include <memory>
 #include <stdexcept>
 
 namespace {
@@ -17,7 +19,8 @@ constexpr interception::Operation kQuery{"HardwareInfo.GetSerialNumber",
 /// `unpainted`: no event is handled in between, so that the hand-over alone is measured.
 void EmptyCall(benchmark::State& state, workstation::CWorkerInterceptor::Limits limits) {
     workstation::ICallObserver observer;
-    workstation::CWorkerInterceptor worker(observer, limits);
+    workstation::CWorkerInterceptor worker(std::make_unique<workstation::CQtEventLoop>(), observer,
+                                           limits);
     int calls = 0;
     for (auto _ : state) {
         const contract::Status status = worker.Call(kQuery, [&] {

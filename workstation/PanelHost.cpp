@@ -11,6 +11,7 @@
 #include "interception/InterceptorChain.h"
 #include "workstation/EventWatch.h"
 #include "workstation/MessageService.h"
+#include "workstation/QtEventLoop.h"
 
 #include <QApplication>
 #include <QThread>
@@ -69,7 +70,7 @@ private:
 
 CPanelHost::CPanelHost(std::shared_ptr<contract::IPanel> panel, IPanelHostObserver& observer)
     : m_observer(observer),
-      m_worker(std::make_shared<CWorkerInterceptor>(observer)),
+      m_worker(std::make_shared<CWorkerInterceptor>(std::make_unique<CQtEventLoop>(), observer)),
       m_gate(std::make_shared<CConnectionGate>([this] { return IsPanelBusy(); })),
       m_deviceSide(m_worker),
       m_connectionSide(std::make_shared<interception::CInterceptorChain>(

@@ -18,7 +18,8 @@ public:
     CWorker(const CWorker&) = delete;
     CWorker& operator=(const CWorker&) = delete;
 
-    /// Has the call made and returns at once. `call` must live until it has ended.
+    /// Has the call made and returns at once. `call` must outlive the worker, whose last touch of
+    /// it comes after its caller has seen the end.
     void Start(CDeviceCall& call);
 
     /// The call that the current thread is making; null on any thread but the worker's.

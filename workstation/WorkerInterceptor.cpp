@@ -1,10 +1,6 @@
 #include "workstation/WorkerInterceptor.h"
 
 #include "workstation/DeviceCall.h"
-#include "workstation/InputDiscarder.h"
-
-#include <QAbstractEventDispatcher>
-#include <QCoreApplication>
 
 #include <utility>
 
@@ -36,8 +32,9 @@ bool DeliverEvents(CDeviceCall& call) {
 
 }
 
-CWorkerInterceptor::CWorkerInterceptor(ICallObserver& observer, Limits limits)
-    : m_observer(observer), m_limits(limits) {}
+CWorkerInterceptor::CWorkerInterceptor(std::unique_ptr<IEventLoop> loop, ICallObserver& observer,
+                                       Limits limits)
+    : m_loop(std::move(loop)), m_observer(observer), m_limits(limits) {}
 
 CWorkerInterceptor::~CWorkerInterceptor() = default;
 
@@ -51,7 +48,8 @@ contract::Status CWorkerInterceptor::Call(const interception::Operation& operati
     call.Begin(run);
     m_worker.Start(call);
     if (Clock::now() - m_lastPaint > m_limits.paintInterval) {
-        HandleEvents(false);
+        m_loop->HandleEvents();
+        m_lastPaint = Clock::now();
     }
     if (!call.Wait(m_limits.shortCall)) {
         m_observer.CallLasts(operation);
@@ -74,30 +72,23 @@ contract::Status CWorkerInterceptor::Deliver(const interception::Operation&,
 
 CDeviceCall& CWorkerInterceptor::CallAtDepth(std::size_t depth) {
     if (depth == m_calls.size()) {
-        QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
-        m_calls.push_back(std::make_unique<CDeviceCall>([dispatcher] { dispatcher->wakeUp(); }));
+        m_calls.push_back(std::make_unique<CDeviceCall>([&loop = *m_loop] { loop.WakeUp(); }));
     }
     return *m_calls[depth];
 }
 
 void CWorkerInterceptor::WaitPainting(CDeviceCall& call) {
     using namespace std::chrono_literals;
-    // The condition is the call's end and not the event loop's, which QApplication::exit ends
+    // The condition is the call's end and not the event loop's, which the application may end
     // early.
     while (!call.Wait(0ms)) {
         // Events first: those raised before there was anybody to wake are waiting. The end is
         // looked for again after a handler, whose own event loop may have swallowed its wake-up.
         if (!DeliverEvents(call)) {
-            HandleEvents(true);
+            m_loop->WaitForEvents();
+            m_lastPaint = Clock::now();
         }
     }
-}
-
-void CWorkerInterceptor::HandleEvents(bool waitForMore) {
-    const CInputDiscarder discarder;
-    QCoreApplication::processEvents(waitForMore ? QEventLoop::WaitForMoreEvents
-                                                : QEventLoop::AllEvents);
-    m_lastPaint = Clock::now();
 }
 
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "interception/Interceptor.h"
+#include "workstation/EventLoop.h"
 #include "workstation/Worker.h"
 
 #include <chrono>
 #include <memory>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace workstation {
@@ -40,10 +42,13 @@ public:
         std::chrono::milliseconds paintInterval{40};
     };
 
-    /// `observer` must outlive the interceptor.
-    explicit CWorkerInterceptor(ICallObserver& observer) : CWorkerInterceptor(observer, Limits{}) {}
-    CWorkerInterceptor(ICallObserver& observer, Limits limits);
+    /// `loop` is that of the thread that makes the interceptor; `observer` must outlive it.
+    CWorkerInterceptor(std::unique_ptr<IEventLoop> loop, ICallObserver& observer)
+        : CWorkerInterceptor(std::move(loop), observer, Limits{}) {}
+    CWorkerInterceptor(std::unique_ptr<IEventLoop> loop, ICallObserver& observer, Limits limits);
     ~CWorkerInterceptor() override;
+    CWorkerInterceptor(const CWorkerInterceptor&) = delete;
+    CWorkerInterceptor& operator=(const CWorkerInterceptor&) = delete;
 
     contract::Status Call(const interception::Operation& operation,
                           interception::FunctionRef<contract::Status()> run) override;
@@ -58,8 +63,8 @@ private:
 
     CDeviceCall& CallAtDepth(std::size_t depth);
     void WaitPainting(CDeviceCall& call);
-    void HandleEvents(bool waitForMore);
 
+    const std::unique_ptr<IEventLoop> m_loop;
     ICallObserver& m_observer;
     const Limits m_limits;
     const std::thread::id m_callerThread = std::this_thread::get_id();

@@ -41,7 +41,8 @@ TEST_F(WorkerInterceptorTest, StatusComesBack) {
 }
 
 TEST_F(WorkerInterceptorTest, ShortCallHandlesNoEvents) {
-    workstation::CWorkerInterceptor unhurried(m_observer, {.shortCall = 10s, .paintInterval = 10s});
+    workstation::CWorkerInterceptor unhurried(std::make_unique<workstation::CQtEventLoop>(),
+                                              m_observer, {.shortCall = 10s, .paintInterval = 10s});
     bool handled = false;
     QTimer::singleShot(0, [&] { handled = true; });
     EXPECT_EQ(unhurried.Call(kQuery, [] { return kSuccess; }), kSuccess);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workstation/QtEventLoop.h"
 #include "workstation/WorkerInterceptor.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include <chrono>
 #include <functional>
 #include <future>
+#include <memory>
 #include <string>
 #include <thread>
 #include <utility>
@@ -70,6 +72,7 @@ protected:
 
     const std::thread::id m_ourThread = std::this_thread::get_id();
     CountingObserver m_observer;
-    workstation::CWorkerInterceptor m_interceptor{m_observer};
+    workstation::CWorkerInterceptor m_interceptor{std::make_unique<workstation::CQtEventLoop>(),
+                                                  m_observer};
     std::vector<std::string> m_heard;
 };

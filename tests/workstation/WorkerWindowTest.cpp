@@ -56,7 +56,8 @@ TEST_F(WorkerWindowTest, WindowIsPaintedBetweenManyShortCalls) {
     const int before = canvas.m_paints;
     const auto start = std::chrono::steady_clock::now();
     // None of the calls gets an event loop of its own.
-    workstation::CWorkerInterceptor patient(m_observer, {.shortCall = 10s});
+    workstation::CWorkerInterceptor patient(std::make_unique<workstation::CQtEventLoop>(),
+                                            m_observer, {.shortCall = 10s});
     while (canvas.m_paints < before + 3 && std::chrono::steady_clock::now() - start < 10s) {
         canvas.update();
         EXPECT_EQ(patient.Call(kQuery, [] { return kSuccess; }), kSuccess);
