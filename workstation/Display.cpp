@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <cstdlib>
-#include <ranges>
 #include <string>
 #include <string_view>
 
@@ -75,12 +74,17 @@ bool HasDisplay() {
         return HasX11() || HasWayland();
     }
     // The toolkit takes the first of a list that works.
-    for (const auto name : std::views::split(platforms, ';')) {
-        if (HasDisplayOn(std::string_view(name.begin(), name.end()))) {
+    std::string_view rest = platforms;
+    while (true) {
+        const std::size_t end = rest.find(';');
+        if (HasDisplayOn(rest.substr(0, end))) {
             return true;
         }
+        if (end == std::string_view::npos) {
+            return false;
+        }
+        rest.remove_prefix(end + 1);
     }
-    return false;
 }
 
 }

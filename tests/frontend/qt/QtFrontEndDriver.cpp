@@ -125,7 +125,7 @@ void CQtFrontEndDriver::ExpectMenu(int command, std::function<void()> whileOpen)
 }
 
 void CQtFrontEndDriver::ExpectFileDialog(std::function<void(conformance::IFileDialogUser&)> act) {
-    m_prompts.Expect<QFileDialog>([this, act](QFileDialog& dialog) {
+    m_prompts.Expect<QFileDialog>([act](QFileDialog& dialog) {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
         CFileDialogUser user(dialog);
         act(user);

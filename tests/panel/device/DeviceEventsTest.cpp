@@ -31,8 +31,8 @@ struct NamedMode {
     /// Empty for a mode that is known.
     const char* trace;
 
-    friend std::ostream& operator<<(std::ostream& out, const NamedMode& mode) {
-        return out << mode.mode;
+    friend std::ostream& operator<<(std::ostream& out, const NamedMode& named) {
+        return out << named.mode;
     }
 };
 

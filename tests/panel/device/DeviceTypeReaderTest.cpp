@@ -39,8 +39,8 @@ struct KnownType {
     const char* title;
     bool isNetworkEnabled;
 
-    friend std::ostream& operator<<(std::ostream& out, const KnownType& type) {
-        return out << type.type;
+    friend std::ostream& operator<<(std::ostream& out, const KnownType& known) {
+        return out << known.type;
     }
 };
 
