@@ -7,7 +7,8 @@ program=$(basename "$0")
 # Debian 12 package names.
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev nlohmann-json3-dev libsimpleini-dev
                 fonts-dejavu-core)
-test_packages=(libgtest-dev libgmock-dev libqt6test6 libxcb1-dev xvfb xdotool)
+test_packages=(libgtest-dev libgmock-dev libqt6test6 libxcb1-dev xvfb xdotool
+               clang-format)
 # To make the programs for Windows, and to run them.
 windows_packages=(gcc-mingw-w64-x86-64-posix g++-mingw-w64-x86-64-posix gcc-mingw-w64-i686-posix
                   g++-mingw-w64-i686-posix mingw-w64-tools googletest wine wine64 fonts-wine)
