@@ -50,7 +50,7 @@ CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesyste
     connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this,
             [this] { close(); });
     m_status.ShowPolling(m_panelHost->IsPolling());
-    ConnectionChanged();
+    CMainWindow::ConnectionChanged();
     ListDevices();
     resize(sizeHint().boundedTo(screen()->availableSize()));
 }

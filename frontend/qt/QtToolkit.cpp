@@ -24,7 +24,7 @@ namespace qt {
 
 CQtToolkit::~CQtToolkit() {
     while (m_waitCursors > 0) {
-        PopCursor();
+        CQtToolkit::PopCursor();
     }
     delete m_help;
 }

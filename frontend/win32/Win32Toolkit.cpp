@@ -44,7 +44,7 @@ CWin32Toolkit::CWin32Toolkit(FocusRule mayTakeFocus) : m_mayTakeFocus(std::move(
 
 CWin32Toolkit::~CWin32Toolkit() {
     while (m_waitCursors > 0) {
-        PopCursor();
+        CWin32Toolkit::PopCursor();
     }
 }
 

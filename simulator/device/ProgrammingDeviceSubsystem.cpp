@@ -19,7 +19,7 @@ contract::Status CProgrammingDeviceSubsystem::get_ProgrammingDeviceControl(
 
 contract::Status
 CProgrammingDeviceSubsystem::GetKrx10Control(std::shared_ptr<contract::IKrx10Control>& control) {
-    return m_slot->WithDevice([&](CDevice& device) {
+    return m_slot->WithDevice([&](const CDevice& device) {
         if (!device.IsNetworked()) {
             return Fail(contract::kNoSuchInterface, "This device has no network control");
         }
