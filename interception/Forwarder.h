@@ -16,6 +16,8 @@ public:
     CForwarder(std::shared_ptr<CWrapperRegistry> registry, std::shared_ptr<Interface> target)
         : CWrapper(std::move(registry)), m_target(std::move(target)) {}
     ~CForwarder() override { Registry().Forget(m_target); }
+    CForwarder(const CForwarder&) = delete;
+    CForwarder& operator=(const CForwarder&) = delete;
 
 protected:
     using Target = Interface;

@@ -16,7 +16,9 @@ class FunctionRef<Result(Arguments...)> {
 public:
     template <class Callable>
     requires(!std::is_same_v<std::remove_cvref_t<Callable>, FunctionRef>)
+        // NOLINTNEXTLINE(bugprone-forwarding-reference-overload): not for copies, as just required
         FunctionRef(Callable&& callable)
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the call makes it const again
         : m_callable(const_cast<void*>(static_cast<const void*>(std::addressof(callable)))),
           m_call([](void* target, Arguments... arguments) -> Result {
               return (*static_cast<std::remove_reference_t<Callable>*>(target))(

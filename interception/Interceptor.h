@@ -49,6 +49,7 @@ public:
 
     /// Called for each event on its way from its source to a sink. `deliver` owns copies of the
     /// event's arguments and holds the sink, so it may be kept and called later, on another thread.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it
     virtual contract::Status Deliver(const Operation&, std::function<contract::Status()> deliver) {
         return deliver();
     }

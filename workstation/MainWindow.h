@@ -36,6 +36,8 @@ public:
     /// `root`: the folder that the devices are listed from; empty for none.
     CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesystem::path root);
     ~CMainWindow() override;
+    CMainWindow(const CMainWindow&) = delete;
+    CMainWindow& operator=(const CMainWindow&) = delete;
 
     /// Starts the panel, with a device connected if one is given, once the window has been painted:
     /// a user sees it before the device has told all about itself. A window that is not to be seen

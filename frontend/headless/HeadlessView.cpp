@@ -119,80 +119,80 @@ void CHeadlessView::Move(ControlId id, const panel::Rectangle& rectangle) {
     }
 }
 
-void CHeadlessView::InsertColumn(ControlId id, int index, const panel::ListColumn& column) {
-    if (CHeadlessList* list = FindList(id)) {
-        list->InsertColumn(index, column);
+void CHeadlessView::InsertColumn(ControlId list, int index, const panel::ListColumn& column) {
+    if (CHeadlessList* rows = FindList(list)) {
+        rows->InsertColumn(index, column);
     }
 }
 
-int CHeadlessView::InsertRow(ControlId id, int index, std::string_view text) {
-    CHeadlessList* list = FindList(id);
-    return list ? list->InsertRow(index, text) : panel::kNoRow;
+int CHeadlessView::InsertRow(ControlId list, int index, std::string_view text) {
+    CHeadlessList* rows = FindList(list);
+    return rows ? rows->InsertRow(index, text) : panel::kNoRow;
 }
 
-void CHeadlessView::SetCell(ControlId id, int row, int column, std::string_view text) {
-    if (CHeadlessList* list = FindList(id)) {
-        list->SetCell(row, column, text);
+void CHeadlessView::SetCell(ControlId list, int row, int column, std::string_view text) {
+    if (CHeadlessList* rows = FindList(list)) {
+        rows->SetCell(row, column, text);
     }
 }
 
-std::string CHeadlessView::GetCell(ControlId id, int row, int column) const {
-    const CHeadlessList* list = FindList(id);
-    return list ? list->GetCell(row, column) : std::string();
+std::string CHeadlessView::GetCell(ControlId list, int row, int column) const {
+    const CHeadlessList* rows = FindList(list);
+    return rows ? rows->GetCell(row, column) : std::string();
 }
 
-void CHeadlessView::SetRowKey(ControlId id, int row, std::uint32_t key) {
-    if (CHeadlessList* list = FindList(id)) {
-        list->SetRowKey(row, key);
+void CHeadlessView::SetRowKey(ControlId list, int row, std::uint32_t key) {
+    if (CHeadlessList* rows = FindList(list)) {
+        rows->SetRowKey(row, key);
     }
 }
 
-std::uint32_t CHeadlessView::GetRowKey(ControlId id, int row) const {
-    const CHeadlessList* list = FindList(id);
-    return list ? list->GetRowKey(row) : 0;
+std::uint32_t CHeadlessView::GetRowKey(ControlId list, int row) const {
+    const CHeadlessList* rows = FindList(list);
+    return rows ? rows->GetRowKey(row) : 0;
 }
 
-void CHeadlessView::RemoveAllRows(ControlId id) {
-    if (CHeadlessList* list = FindList(id)) {
-        list->RemoveAllRows();
+void CHeadlessView::RemoveAllRows(ControlId list) {
+    if (CHeadlessList* rows = FindList(list)) {
+        rows->RemoveAllRows();
     }
 }
 
-int CHeadlessView::GetRowCount(ControlId id) const {
-    const CHeadlessList* list = FindList(id);
-    return list ? list->GetRowCount() : 0;
+int CHeadlessView::GetRowCount(ControlId list) const {
+    const CHeadlessList* rows = FindList(list);
+    return rows ? rows->GetRowCount() : 0;
 }
 
-void CHeadlessView::SelectRow(ControlId id, int row, bool selected) {
-    if (CHeadlessList* list = FindList(id)) {
-        list->SelectRow(row, selected);
+void CHeadlessView::SelectRow(ControlId list, int row, bool selected) {
+    if (CHeadlessList* rows = FindList(list)) {
+        rows->SelectRow(row, selected);
     }
 }
 
-std::vector<int> CHeadlessView::GetSelectedRows(ControlId id) const {
-    const CHeadlessList* list = FindList(id);
-    return list ? list->GetSelectedRows() : std::vector<int>();
+std::vector<int> CHeadlessView::GetSelectedRows(ControlId list) const {
+    const CHeadlessList* rows = FindList(list);
+    return rows ? rows->GetSelectedRows() : std::vector<int>();
 }
 
-void CHeadlessView::SetSelectionMark(ControlId id, int row) {
-    if (CHeadlessList* list = FindList(id)) {
-        list->SetSelectionMark(row);
+void CHeadlessView::SetSelectionMark(ControlId list, int row) {
+    if (CHeadlessList* rows = FindList(list)) {
+        rows->SetSelectionMark(row);
     }
 }
 
-int CHeadlessView::GetSelectionMark(ControlId id) const {
-    const CHeadlessList* list = FindList(id);
-    return list ? list->GetSelectionMark() : panel::kNoRow;
+int CHeadlessView::GetSelectionMark(ControlId list) const {
+    const CHeadlessList* rows = FindList(list);
+    return rows ? rows->GetSelectionMark() : panel::kNoRow;
 }
 
-int CHeadlessView::GetFocusedRow(ControlId id) const {
-    const CHeadlessList* list = FindList(id);
-    return list ? list->GetFocusedRow() : panel::kNoRow;
+int CHeadlessView::GetFocusedRow(ControlId list) const {
+    const CHeadlessList* rows = FindList(list);
+    return rows ? rows->GetFocusedRow() : panel::kNoRow;
 }
 
-void CHeadlessView::EnsureRowVisible(ControlId id, int row) {
-    if (CHeadlessList* list = FindList(id)) {
-        list->EnsureRowVisible(row);
+void CHeadlessView::EnsureRowVisible(ControlId list, int row) {
+    if (CHeadlessList* rows = FindList(list)) {
+        rows->EnsureRowVisible(row);
     }
 }
 

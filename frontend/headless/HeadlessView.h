@@ -40,6 +40,8 @@ public:
                   panel::IDialogHandler& handler, std::shared_ptr<CWindowStack> windows,
                   ViewKind kind);
     ~CHeadlessView() override;
+    CHeadlessView(const CHeadlessView&) = delete;
+    CHeadlessView& operator=(const CHeadlessView&) = delete;
 
     // panel::IView
 

@@ -31,8 +31,8 @@ private:
     void TakeEdit();
     bool HandleKey(const QKeyEvent& event);
     bool MoveOn();
-    bool MoveToStartOf(CAddressPart* part);
-    bool MoveToEndOf(CAddressPart* part);
+    static bool MoveToStartOf(CAddressPart* part);
+    static bool MoveToEndOf(CAddressPart* part);
 
     CAddressPart* const m_previous;
     CAddressPart* m_next = nullptr;

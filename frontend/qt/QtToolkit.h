@@ -20,6 +20,8 @@ class CQtToolkit : public panel::IToolkit {
 public:
     CQtToolkit() = default;
     ~CQtToolkit() override;
+    CQtToolkit(const CQtToolkit&) = delete;
+    CQtToolkit& operator=(const CQtToolkit&) = delete;
 
     /// `nativeParent` is a QWidget*. The view's widget is named "view-" and the template's id.
     std::unique_ptr<panel::IView> CreateView(const panel::DialogTemplate& dialogTemplate,

@@ -220,6 +220,7 @@ const CQtView::Control* CQtView::Find(ControlId id) const {
 }
 
 CQtView::Control* CQtView::Find(ControlId id) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): this one is not const
     return const_cast<Control*>(std::as_const(*this).Find(id));
 }
 

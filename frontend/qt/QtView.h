@@ -38,6 +38,8 @@ public:
     CQtView(const panel::DialogTemplate& dialogTemplate, QWidget& parent,
             panel::IDialogHandler& handler, std::function<void(int)> endDialog = {});
     ~CQtView() override;
+    CQtView(const CQtView&) = delete;
+    CQtView& operator=(const CQtView&) = delete;
 
     /// Null once the parent has ended.
     QWidget* GetWidget() const;

@@ -148,7 +148,7 @@ void CFittingFont::Fit(HWND control, ControlKind kind) {
 }
 
 void CFittingFont::FitHeadings(HWND list) {
-    const auto header = reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0));
+    const HWND header = reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0));
     Choose(header, [&](const CMeasure& measure) { return HeadingsFit(header, measure); });
 }
 

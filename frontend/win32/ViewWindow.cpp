@@ -26,7 +26,7 @@ std::shared_ptr<CViewWindow> CViewWindow::Attach(const panel::DialogTemplate& di
                                                  HWND dialog, panel::IDialogHandler& handler,
                                                  std::shared_ptr<const CCursorStack> cursors,
                                                  FocusRule mayTakeFocus) {
-    const std::shared_ptr<CViewWindow> window(new CViewWindow(
+    std::shared_ptr<CViewWindow> window(new CViewWindow(
         dialogTemplate, dialog, handler, std::move(cursors), std::move(mayTakeFocus)));
     auto reference = std::make_unique<Reference>(window);
     if (SetWindowSubclass(dialog, Procedure, kSubclass,
@@ -152,7 +152,7 @@ void CViewWindow::HandleHelp(const HELPINFO& request) {
     const bool isWindow = request.iContextType == HELPINFO_WINDOW;
     const CControlTable::Control* const control = m_controls.Find(
         isWindow ? m_controls.FindId(static_cast<HWND>(request.hItemHandle)) : panel::kNoControl);
-    Notify(&panel::IDialogHandler::OnHelp, control ? control->helpContext : 0u);
+    Notify(&panel::IDialogHandler::OnHelp, control ? control->helpContext : 0U);
 }
 
 void CViewWindow::ReportSize(panel::Size size) {

@@ -21,6 +21,8 @@ public:
     /// The rule is that of its views; dialogs have the focus in any case.
     explicit CWin32Toolkit(FocusRule mayTakeFocus = {});
     ~CWin32Toolkit() override;
+    CWin32Toolkit(const CWin32Toolkit&) = delete;
+    CWin32Toolkit& operator=(const CWin32Toolkit&) = delete;
 
     /// `nativeParent` is an HWND of this thread. The view is a child of it, with
     /// WS_EX_CONTROLPARENT; F1 needs nothing of the host's message loop. Given the focus, it hands

@@ -30,6 +30,8 @@ public:
                panel::IDialogHandler& handler, std::shared_ptr<const CCursorStack> cursors,
                FocusRule mayTakeFocus = {});
     ~CWin32View() override;
+    CWin32View(const CWin32View&) = delete;
+    CWin32View& operator=(const CWin32View&) = delete;
 
     /// Makes it the view of a modal dialog: `endDialog` is what EndDialog does, and the cancel
     /// command comes without its button too.

@@ -20,7 +20,7 @@ contract::Status Call(const std::shared_ptr<Object>& object,
                       Arguments&&... arguments) {
     contract::ClearErrorInfo();
     // Held for the length of the call: an event raised inside may replace the caller's reference.
-    const std::shared_ptr<Object> held = object;
+    const std::shared_ptr<Object> held = object; // NOLINT(performance-unnecessary-copy-*)
     if (!held) {
         return contract::kInvalidPointer;
     }

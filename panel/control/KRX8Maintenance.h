@@ -59,6 +59,8 @@ public:
 
     CKRX8Maintenance(Private, std::unique_ptr<IToolkit> toolkit);
     ~CKRX8Maintenance() override;
+    CKRX8Maintenance(const CKRX8Maintenance&) = delete;
+    CKRX8Maintenance& operator=(const CKRX8Maintenance&) = delete;
 
     // contract::IPanel
     contract::Status CreateView(void* nativeParent) override;

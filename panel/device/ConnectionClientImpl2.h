@@ -56,7 +56,7 @@ public:
     }
 
 protected:
-    ~IConnectionClientImpl2() = default;
+    ~IConnectionClientImpl2() override = default;
 
     std::shared_ptr<contract::IConnection> Connection() const {
         const std::lock_guard lock(m_connectionLock);

@@ -15,6 +15,9 @@ namespace panel {
 template <class Derived>
 class IContextMemberImpl : public virtual contract::IContextMember {
 public:
+    IContextMemberImpl(const IContextMemberImpl&) = delete;
+    IContextMemberImpl& operator=(const IContextMemberImpl&) = delete;
+
     contract::Status
     SetContextAndRegister(const std::shared_ptr<contract::IContext>& context) final {
         const auto self = static_cast<Derived*>(this)->Self();
@@ -51,7 +54,8 @@ public:
     }
 
 protected:
-    ~IContextMemberImpl() { Unregister(m_context, m_cookie); }
+    IContextMemberImpl() = default;
+    ~IContextMemberImpl() override { Unregister(m_context, m_cookie); }
 
     const std::shared_ptr<contract::IContext>& Context() const { return m_context; }
 

@@ -20,8 +20,11 @@ class CProgrammingDeviceControlEvents;
 /// control. User-interface thread only.
 class CDeviceConnection {
 public:
+    CDeviceConnection() = default;
     /// Disconnects from the control's events, whenever a control is held.
     ~CDeviceConnection();
+    CDeviceConnection(const CDeviceConnection&) = delete;
+    CDeviceConnection& operator=(const CDeviceConnection&) = delete;
 
     /// Keeps `access`, then obtains what is not yet held: the subsystem, the control and, only
     /// together with the control, the subscription of `events`. Returns the status of the first

@@ -27,7 +27,7 @@ public:
     }
 
 protected:
-    ~CProgrammingDeviceClientImpl() = default;
+    ~CProgrammingDeviceClientImpl() override = default;
 
     CDeviceConnection& Device() { return m_device; }
 

@@ -63,6 +63,6 @@ inline constexpr const char* kFlashVersion = "FlashVersion"; ///< its version, d
 
 /// The key of the settings, of the local machine.
 inline constexpr const char* kUpdateSettingsKey =
-    "SOFTWARE\\Vantor Mobile Phones\\WstShared\\Common\\FlashUpdate";
+    R"(SOFTWARE\Vantor Mobile Phones\WstShared\Common\FlashUpdate)";
 
 }

@@ -13,6 +13,8 @@ class CVariant {
 public:
     CVariant() { VariantInit(&m_value); }
     ~CVariant() { VariantClear(&m_value); }
+    CVariant(const CVariant&) = delete;
+    CVariant& operator=(const CVariant&) = delete;
     CVariant(CVariant&& other) noexcept : m_value(other.m_value) { VariantInit(&other.m_value); }
     CVariant& operator=(CVariant&&) = delete;
 

@@ -22,6 +22,9 @@ namespace component {
 /// wherever that is released on its thread.
 class CControl final : public IUnknown, public IControl {
 public:
+    CControl(const CControl&) = delete;
+    CControl& operator=(const CControl&) = delete;
+
     /// Throws std::bad_alloc.
     static ComPtr<IUnknown> Create();
 

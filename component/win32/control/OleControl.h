@@ -11,6 +11,8 @@ public:
     COleControl(IControl& control, CActivation& activation)
         : CPart(control), m_activation(activation) {}
     ~COleControl();
+    COleControl(const COleControl&) = delete;
+    COleControl& operator=(const COleControl&) = delete;
 
     HRESULT STDMETHODCALLTYPE GetControlInfo(CONTROLINFO* info) override;
     HRESULT STDMETHODCALLTYPE OnMnemonic(MSG* message) override;

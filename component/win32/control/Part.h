@@ -36,6 +36,8 @@ public:
     ULONG STDMETHODCALLTYPE Release() override { return m_control.Identity().Release(); }
 
 protected:
+    ~CPart() = default;
+
     template <class Operation>
     HRESULT Enter(Operation operation) {
         if (!m_control.IsOnItsThread()) {

@@ -20,7 +20,7 @@ HANDLE Acquire(const std::filesystem::path& file) {
 CFolderLock::CFolderLock(const std::filesystem::path& folder) {
     constexpr DWORD kPauseMs = 1;
     const auto file = folder / kLockName;
-    auto handle = Acquire(file);
+    HANDLE handle = Acquire(file);
     // LockFileEx could wait, but only on a file that stays.
     while (handle == INVALID_HANDLE_VALUE && GetLastError() == ERROR_SHARING_VIOLATION) {
         Sleep(kPauseMs);
