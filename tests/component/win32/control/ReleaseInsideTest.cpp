@@ -70,7 +70,7 @@ TEST_P(ReleaseInsideTest, ADeviceCallThatThenFails) {
 }
 
 TEST_P(ReleaseInsideTest, AConnectionEventWhoseCallThenFails) {
-    EndInside("GetFileListing", contract::kUnspecifiedFailure);
+    EndInside("GetSelfTestResults", contract::kUnspecifiedFailure);
     prompts.ExpectBox(kOk);
     host->RaiseState(7);
     EXPECT_EQ(container.Window(), nullptr);
