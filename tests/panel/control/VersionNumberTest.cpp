@@ -26,8 +26,9 @@ INSTANTIATE_TEST_SUITE_P(Texts, ParseVersionTest,
                                          ParseCase{"abc", {0}}, ParseCase{"abc.5", {0}},
                                          ParseCase{"1.2a", {1, 2}}, ParseCase{"1.2a.3", {1, 2}},
                                          ParseCase{" 7. 8", {7, 8}}, ParseCase{"\t-3.+4", {-3, 4}},
-                                         ParseCase{"-.5", {0}}, ParseCase{" .5", {0}},
-                                         ParseCase{".5", {0, 5}}, ParseCase{"007", {7}}));
+                                         ParseCase{"\n\r7.\v\f8", {7, 8}}, ParseCase{"-.5", {0}},
+                                         ParseCase{" .5", {0}}, ParseCase{".5", {0, 5}},
+                                         ParseCase{"007", {7}}));
 
 TEST(VersionNumberTest, ParseSaturatesAtThirtyTwoBits) {
     EXPECT_EQ(ParseVersion("2147483647.2147483648"), (Numbers{2147483647, 2147483647}));

@@ -1,5 +1,6 @@
 // What the phone file dialog offers, and what a choice means to the device.
 
+#include "panel/files/PhoneFileUploadTemplate.h"
 #include "tests/support/CommandFixture.h"
 
 namespace {
@@ -75,6 +76,23 @@ TEST_F(PhoneFileUploadChoiceTest, ChoiceOutlivesTheDevice) {
         EXPECT_EQ(dialog.Options()->GetSelectedChoice(267), 1);
         dialog.Cancel();
     });
+}
+
+TEST_F(PhoneFileUploadChoiceTest, FocusGoesToTheMissingOptionAfterItsWarning) {
+    for (const ControlId missing : {kUploadMethodList, kUploadDestinationList}) {
+        Upload([&](CHeadlessFileDialog& dialog) {
+            headless::CHeadlessView& options = *dialog.Options();
+            const ControlId other =
+                missing == kUploadMethodList ? kUploadDestinationList : kUploadMethodList;
+            options.SetFocus(other);
+            options.SelectChoice(missing, -1);
+            messageService->whileOpen = [&] { EXPECT_EQ(options.GetFocus(), other); };
+            EXPECT_FALSE(dialog.Accept("D:\\a.fia"));
+            EXPECT_EQ(options.GetFocus(), missing);
+            messageService->whileOpen = nullptr;
+        });
+    }
+    EXPECT_EQ(TakeMessages().size(), 2u);
 }
 
 TEST_F(PhoneFileUploadChoiceTest, WaitCursorShowsUntilTheFilesAreListed) {
