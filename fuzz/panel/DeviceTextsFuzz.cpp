@@ -1,12 +1,11 @@
-// Texts that a device delivers, in every place of the panel where one is shown: four bytes with the
-// model, the size that the texts are stretched to, the call that fails with such a text and how it
-// is told; then up to three lines with a file's name, a version and all other texts.
+// Texts that a device delivers, in every place of the panel where one is shown: five bytes with the
+// model, the sizes that the texts are stretched to, the call that fails with such a text and how it
+// is told; then three lines with a file's name, versions and all other texts.
 
 #include "fuzz/panel/TextReader.h"
 #include "fuzz/support/Input.h"
 
 #include <cstddef>
-#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -32,12 +31,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CInput input(data, size);
     DeviceTexts texts;
     texts.type = input.Below(7);
-    const std::size_t stretchedTo = kSizes[input.Byte() % std::size(kSizes)];
+    const unsigned sizes = input.Number16();
     texts.failingCall = input.Byte();
     texts.flags = input.Byte();
-    texts.name = Stretched(input.Line(), stretchedTo);
-    texts.version = Stretched(input.Line(), stretchedTo);
-    texts.other = Stretched(input.Rest(), stretchedTo);
+    texts.name = Stretched(input.Line(), kSizes[sizes & 0xF]);
+    texts.version = Stretched(input.Line(), kSizes[sizes >> 4 & 0xF]);
+    texts.other = Stretched(input.Rest(), kSizes[sizes >> 8 & 0xF]);
     CTextReader(texts).ReadAll();
     return 0;
 }

@@ -89,6 +89,7 @@ void CSession::DoForPanel(const std::function<contract::Status()>& deed) {
 
 void CSession::PrepareStep() {
     m_updatesAccepted = 0;
+    m_isGone = false;
     faults->Clear();
     recorder->Clear();
     Spoil();
@@ -142,6 +143,9 @@ void CSession::RequireSound() {
     const headless::CHeadlessView* view = PanelView();
     if (view && panel) {
         RequireSoundView(*view, State());
+        const bool hasDevice = view->IsEnabled(panel::kFileList);
+        Require(hasDevice || m_isGone || !m_hadDevice, "what was enabled is so again");
+        m_hadDevice = hasDevice;
         if (!m_isTypeNew) {
             RequireControlsOfType(*view, State().deviceType);
         }

@@ -113,6 +113,10 @@ private:
     int m_depth = 0;
     int m_updatesAccepted = 0;
     bool m_isPolling = true;
+    /// The device's controls were enabled after the last step.
+    bool m_hadDevice = false;
+    /// The connection has told in this step that the device is gone.
+    bool m_isGone = false;
     /// The panel knows another type than the one that its controls were last set for.
     bool m_isTypeNew = false;
     /// The session is over, and the user says yes to everything but updates.

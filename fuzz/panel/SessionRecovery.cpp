@@ -31,10 +31,10 @@ bool CSession::CanRecover() {
 }
 
 void CSession::Recover() {
-    faults->Clear();
     m_device = simulator::CDevice::Create(GoodDevice(m_input));
-    // From here on the user does the obvious, and nobody interrupts.
+    // From here on the user does the obvious, nobody interrupts, and no call fails.
     m_input = CInput(nullptr, 0);
+    PrepareStep();
     m_isRecovering = true;
     desktop->registry.openError = 0;
     host.SetMessageService(MessageService());

@@ -56,6 +56,7 @@ void CSession::ChangeConnectionState() {
 }
 
 void CSession::RaiseState(contract::Status status, std::int32_t state) {
+    m_isGone = m_isGone || state == contract::kConnectionDeviceGone;
     WatchingType([&] { host.RaiseConnectionState(status, state); });
 }
 

@@ -16,8 +16,11 @@ struct DeviceTexts {
     /// Bit 0: the host has no message service; bit 1: files are in RAM; bit 2: a question is
     /// answered with Yes.
     std::uint8_t flags = 0;
+    /// Of files.
     std::string name;
+    /// Of files and of most software.
     std::string version;
+    /// All else.
     std::string other;
 };
 

@@ -22,8 +22,9 @@ StoredFile MakeFile(int number) {
                                             "omega.bin", "alpha.fia", "\xC3\xA9t\xC3\xA9.fg",
                                             "zeta.fia"};
     constexpr std::int32_t kTypes[kFiles] = {19, 21, 22, 255, 21, 22, -1};
+    constexpr std::int32_t kLocations[kFiles] = {1, 2, 1, 3, 2, 1, 4};
     StoredFile file = support::File(kNames[number], kTypes[number], 70000 + number);
-    file.location = 1 + number % 4;
+    file.location = kLocations[number];
     file.generation = static_cast<std::uint32_t>(number);
     return file;
 }

@@ -5,6 +5,8 @@
 #include "panel/control/PanelTemplate.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <set>
 #include <string>
 
 namespace fuzz {
@@ -48,6 +50,7 @@ void RequireFields(const CHeadlessView& view) {
 
 void RequireRows(const CHeadlessView& view) {
     const int count = view.GetRowCount(panel::kFileList);
+    std::set<std::uint32_t> keys;
     for (int row = 0; row < count; ++row) {
         for (int column = 0; column < kColumns; ++column) {
             const std::string cell = view.GetCell(panel::kFileList, row, column);
@@ -55,6 +58,7 @@ void RequireRows(const CHeadlessView& view) {
             Require(cell.size() <= kLongestCell * kShownBytes, "a cell is cut");
         }
         Require(!view.GetCell(panel::kFileList, row, 0).empty(), "a row has a name");
+        Require(keys.insert(view.GetRowKey(panel::kFileList, row)).second, "a file has one row");
     }
     for (const int row : view.GetSelectedRows(panel::kFileList)) {
         Require(row >= 0 && row < count, "what is selected is there");
