@@ -1,7 +1,7 @@
 #include "component/linux/CatalogueRegistrar.h"
 
+#include "contract/GuidText.h"
 #include "frontend/registry/Catalogue.h"
-#include "panel/registration/GuidText.h"
 
 #include <nlohmann/json.hpp>
 
@@ -69,7 +69,7 @@ Status CCatalogueRegistrar::RegisterCategory(const contract::Guid& identifier, s
     std::array<char, 9> language;
     std::snprintf(language.data(), language.size(), "%x", static_cast<unsigned>(locale));
     const RegistryStep step{RegistryStep::Kind::WriteText,
-                            "Component Categories\\" + panel::FormatGuid(identifier),
+                            "Component Categories\\" + contract::FormatGuid(identifier),
                             language.data(), std::string(description)};
     return Apply({&step, 1});
 }

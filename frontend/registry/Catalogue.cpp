@@ -1,8 +1,8 @@
 #include "frontend/registry/Catalogue.h"
 
+#include "contract/GuidText.h"
 #include "frontend/registry/SettingsFile.h"
 #include "frontend/registry/SystemError.h"
-#include "panel/registration/GuidText.h"
 
 #include <nlohmann/json.hpp>
 
@@ -44,7 +44,7 @@ std::variant<CatalogueEntry, std::string> FindComponent(const std::string& file,
     if (classText.empty()) {
         return programIdentifier + " is not registered in " + file;
     }
-    const auto classIdentifier = panel::ParseGuid(classText);
+    const auto classIdentifier = contract::ParseGuid(classText);
     const std::string library = DefaultText(settings, "CLSID\\" + classText + "\\InprocServer32");
     if (!classIdentifier || library.empty()) {
         return programIdentifier + " is registered in " + file + ", but its class " + classText +

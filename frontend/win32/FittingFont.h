@@ -1,10 +1,8 @@
 #pragma once
 
-#include "frontend/win32/WinApi.h"
+#include "frontend/win32/Font.h"
 #include "panel/control/DialogTemplate.h"
 
-#include <memory>
-#include <type_traits>
 #include <vector>
 
 namespace win32 {
@@ -24,11 +22,6 @@ public:
     void FitHeadings(HWND list);
 
 private:
-    struct FontEnd {
-        void operator()(HFONT font) const { DeleteObject(font); }
-    };
-    using OwnedFont = std::unique_ptr<std::remove_pointer_t<HFONT>, FontEnd>;
-
     template <class Fits>
     void Choose(HWND window, Fits fits);
 

@@ -1,8 +1,6 @@
 #include "frontend/win32/Font.h"
 
-#include <memory>
 #include <string_view>
-#include <type_traits>
 
 namespace win32 {
 
@@ -10,11 +8,6 @@ namespace {
 
 constexpr std::wstring_view kAlphabet = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 constexpr int kPointsPerInch = 72;
-
-struct FontEnd {
-    void operator()(HFONT font) const { DeleteObject(font); }
-};
-using OwnedFont = std::unique_ptr<std::remove_pointer_t<HFONT>, FontEnd>;
 
 int DotsPerInch(HDC context) { return GetDeviceCaps(context, LOGPIXELSY); }
 
@@ -42,14 +35,14 @@ LOGFONTW DescribeFont(int dotsPerInch) {
     return font;
 }
 
-HFONT MakeFont() {
+OwnedFont MakeFont() {
     const HDC screen = GetDC(nullptr);
     if (!screen) {
         return nullptr;
     }
     const LOGFONTW font = DescribeFont(DotsPerInch(screen));
     ReleaseDC(nullptr, screen);
-    return CreateFontIndirectW(&font);
+    return OwnedFont(CreateFontIndirectW(&font));
 }
 
 panel::FontMetrics MeasureFont() {

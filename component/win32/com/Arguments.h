@@ -2,7 +2,7 @@
 
 #include "component/win32/com/Bridge.h"
 #include "component/win32/com/Bstr.h"
-#include "component/win32/com/Identifiers.h"
+#include "contract/GuidText.h"
 #include "contract/Status.h"
 
 #include <cstdint>
@@ -235,7 +235,7 @@ struct Crossing<const contract::Guid&> {
 
     class Outgoing {
     public:
-        Outgoing(CBridge&, const contract::Guid& identifier) : m_text(IdentifierText(identifier)) {}
+        Outgoing(CBridge&, const contract::Guid& identifier) : m_text(FormatGuid(identifier)) {}
         Com Get() const { return m_text.Get(); }
         void Deliver() {}
 
@@ -247,7 +247,7 @@ struct Crossing<const contract::Guid&> {
     public:
         static constexpr contract::Status kRefusal{E_INVALIDARG};
 
-        Incoming(CBridge&, Com text) : m_identifier(ReadIdentifier(text)) {}
+        Incoming(CBridge&, Com text) : m_identifier(contract::ParseGuid(FromBstr(text))) {}
         bool IsValid() const { return m_identifier.has_value(); }
         const contract::Guid& Get() const { return *m_identifier; }
         void Deliver() {}

@@ -30,13 +30,9 @@ public:
                          nullptr);
         SetBkMode(context, TRANSPARENT);
         SetTextColor(context, GetSysColor(COLOR_BTNTEXT));
-        m_font = win32::MakeFont();
-        SelectObject(context, m_font);
+        SelectObject(context, m_font.get());
     }
-    ~CDrawing() {
-        RestoreDC(m_context, m_state);
-        DeleteObject(m_font);
-    }
+    ~CDrawing() { RestoreDC(m_context, m_state); }
     CDrawing(const CDrawing&) = delete;
     CDrawing& operator=(const CDrawing&) = delete;
 
@@ -69,7 +65,7 @@ public:
 private:
     HDC m_context;
     int m_state = 0;
-    HFONT m_font = nullptr;
+    const win32::OwnedFont m_font = win32::MakeFont();
 };
 
 std::wstring TextOf(const ControlTemplate& control, HWND view) {

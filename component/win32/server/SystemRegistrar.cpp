@@ -2,9 +2,9 @@
 
 #include "component/win32/com/Identifiers.h"
 #include "component/win32/com/TypeLibrary.h"
+#include "contract/GuidText.h"
 #include "frontend/win32/Text.h"
 #include "panel/registration/ComponentIdentity.h"
-#include "panel/registration/GuidText.h"
 
 #include <comcat.h>
 
@@ -66,10 +66,10 @@ LSTATUS RemoveKey(const std::wstring& path) {
 
 // Those of the other kind of programs may stand beside it, under another key.
 bool IsTypeLibraryRegistered() {
-    const std::wstring path = L"TypeLib\\" + win32::ToWide(panel::FormatGuid(panel::kTypeLibrary)) +
-                              L"\\" + std::to_wstring(panel::kTypeLibraryMajorVersion) + L"." +
-                              std::to_wstring(panel::kTypeLibraryMinorVersion) + L"\\0\\" +
-                              kSystemKey;
+    const std::wstring path =
+        L"TypeLib\\" + win32::ToWide(contract::FormatGuid(panel::kTypeLibrary)) + L"\\" +
+        std::to_wstring(panel::kTypeLibraryMajorVersion) + L"." +
+        std::to_wstring(panel::kTypeLibraryMinorVersion) + L"\\0\\" + kSystemKey;
     HKEY key = nullptr;
     const LSTATUS error = RegOpenKeyExW(HKEY_CLASSES_ROOT, path.c_str(), 0, KEY_READ, &key);
     if (error == ERROR_SUCCESS) {

@@ -19,14 +19,13 @@ protected:
     ~MadeFontTest() override {
         SelectObject(context, m_before);
         DeleteDC(context);
-        DeleteObject(m_font);
     }
 
     const HDC context = CreateCompatibleDC(nullptr);
 
 private:
-    const HFONT m_font = MakeFont();
-    const HGDIOBJ m_before = SelectObject(context, m_font);
+    const OwnedFont m_font = MakeFont();
+    const HGDIOBJ m_before = SelectObject(context, m_font.get());
 };
 
 TEST_F(MadeFontTest, HeightMeasuredIsThatOfACharacterWithItsLeading) {

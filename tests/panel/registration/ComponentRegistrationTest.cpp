@@ -1,6 +1,6 @@
 #include "panel/registration/ComponentRegistration.h"
 
-#include "panel/registration/GuidText.h"
+#include "contract/GuidText.h"
 #include "panel/registration/RegistrationScript.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "panel/registration/RegistrySteps.h"
 
+#include "contract/GuidText.h"
 #include "panel/registration/ComponentIdentity.h"
-#include "panel/registration/GuidText.h"
 #include "panel/registration/RegistrationScript.h"
 
 #include <gmock/gmock.h>

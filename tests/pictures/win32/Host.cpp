@@ -29,6 +29,12 @@ public:
     contract::Status ClosePanel() override { return contract::kSuccess; }
 };
 
+component::ComPtr<IOleObject> MakeControl(const support::CLoadedComponent& component) {
+    component::ComPtr<IOleObject> control;
+    Require(component.CreateControl().As(&control), "IOleObject");
+    return control;
+}
+
 HWND MakeWindow(const std::string& title) {
     return CreateWindowExW(0, L"STATIC", win32::ToWide(title).c_str(), kStyle, kPlace, kPlace, 0, 0,
                            nullptr, nullptr, nullptr, nullptr);
@@ -53,9 +59,9 @@ void ResizeClient(HWND window, SIZE client) {
 
 }
 
-CHost::CHost(const CComponent& component, std::shared_ptr<simulator::CDevice> device,
+CHost::CHost(const support::CLoadedComponent& component, std::shared_ptr<simulator::CDevice> device,
              const std::string& title)
-    : m_control(component.MakeControl()), m_window(MakeWindow(title)) {
+    : m_control(MakeControl(component)), m_window(MakeWindow(title)) {
     m_simulated.SetHostViewControl(std::make_shared<CViewControl>());
     m_simulated.InsertDevice(std::move(device));
     Hand<IContextMember>([this](IContextMember& control) {

@@ -2,7 +2,7 @@
 
 #include "component/win32/com/Bridge.h"
 #include "simulator/Host.h"
-#include "tests/pictures/win32/Component.h"
+#include "tests/support/win32/LoadedComponent.h"
 
 #include <memory>
 #include <string>
@@ -15,7 +15,7 @@ class CHost {
 public:
     /// Shows the control in a window with that title, without the device's data as yet. Throws
     /// std::runtime_error when the control refuses anything.
-    CHost(const CComponent& component, std::shared_ptr<simulator::CDevice> device,
+    CHost(const support::CLoadedComponent& component, std::shared_ptr<simulator::CDevice> device,
           const std::string& title);
     ~CHost();
     CHost(const CHost&) = delete;

@@ -68,7 +68,7 @@ void TakeAll(wchar_t** arguments) {
     const pictures::CCamera camera(fs::absolute(arguments[4]));
     Prepare(simulator, folder);
     fs::current_path(folder);
-    const pictures::CComponent library(component);
+    const support::CLoadedComponent library(component);
     pictures::CScenes(library, folder, camera).TakeAll();
 }
 

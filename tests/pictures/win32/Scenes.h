@@ -20,7 +20,8 @@ class CScenes {
 public:
     /// `folder` holds copies of the samples in "devices" and of the package in "package"; its path
     /// is seen in the pictures of file dialogs.
-    CScenes(const CComponent& component, std::filesystem::path folder, const CCamera& camera)
+    CScenes(const support::CLoadedComponent& component, std::filesystem::path folder,
+            const CCamera& camera)
         : m_component(component), m_folder(std::move(folder)), m_camera(camera) {}
 
     void TakeAll();
@@ -48,7 +49,7 @@ private:
     /// Until everything expected has come.
     void Finish();
 
-    const CComponent& m_component;
+    const support::CLoadedComponent& m_component;
     const std::filesystem::path m_folder;
     const CCamera& m_camera;
     win32tests::CPromptHands m_hands;

@@ -2,7 +2,7 @@
 // registered type library tells it.
 
 #include "tests/support/win32/Apartment.h"
-#include "component/win32/com/Identifiers.h"
+#include "component/win32/com/Bstr.h"
 #include "component/win32/com/TypeLibrary.h"
 #include "frontend/win32/Module.h"
 #include "tests/component/win32/com/BridgeFixture.h"
@@ -65,7 +65,7 @@ TEST_F(ApartmentTest, SubsystemIsAskedForByItsIdentifier) {
     RunElsewhere([&] {
         const auto access = Receive<ISubsystemAccess>(stream);
         ComPtr<IUnknown> subsystem;
-        const CBstr identifier(IdentifierText(contract::kProgrammingDeviceSubsystem));
+        const CBstr identifier(FormatGuid(contract::kProgrammingDeviceSubsystem));
         result = access->GetSubsystem(identifier.Get(), subsystem.GetAddressOf());
         EXPECT_FALSE(subsystem);
     });

@@ -1,9 +1,12 @@
 #include "component/win32/com/Arguments.h"
 
+#include "component/win32/com/Identifiers.h"
 #include "tests/component/win32/com/BridgeFixture.h"
+#include "tests/interception/HostTargets.h"
 
 #include <cstdint>
 #include <limits>
+#include <string_view>
 
 namespace component {
 
@@ -151,6 +154,28 @@ TEST_F(ArgumentsTest, IdentifiersArrive) {
     ExpectToArrive<const contract::Guid&>(contract::kProductInformationSubsystem);
     const contract::Guid identifier{0xFFFFFFFF, 0x8000, 0x0001, {0x80, 0xFF, 0, 1, 2, 3, 4, 0xFE}};
     EXPECT_EQ(FromGuid(ToGuid(identifier)), identifier);
+}
+
+TEST_F(ArgumentsTest, IdentifiersAreTheTextsOfTheRegistry) {
+    Crossing<const contract::Guid&>::Outgoing outgoing(*m_bridge,
+                                                       contract::kProgrammingDeviceSubsystem);
+    EXPECT_STREQ(outgoing.Get(), L"{492DA5B7-AE9B-4AB6-962A-5637D9563537}");
+    const CBstr text("{492da5b7-ae9b-4ab6-962a-5637d9563537}");
+    EXPECT_EQ(Crossing<const contract::Guid&>::Incoming(*m_bridge, text.Get()).Get(),
+              contract::kProgrammingDeviceSubsystem);
+}
+
+TEST_F(ArgumentsTest, TextThatIsNoIdentifierIsAnInvalidArgument) {
+    const auto target = interception::MakeTarget<contract::ISubsystemAccess>();
+    const auto access = Export<contract::ISubsystemAccess>(target);
+    ComPtr<IUnknown> subsystem;
+    using namespace std::string_view_literals;
+    for (const auto text :
+         {""sv, "QRZ.KRX8Maintenance"sv, "{492DA5B7-AE9B-4AB6-962A-5637D9563537}\0x"sv}) {
+        EXPECT_EQ(access->GetSubsystem(CBstr(text).Get(), subsystem.GetAddressOf()), E_INVALIDARG);
+    }
+    EXPECT_EQ(access->GetSubsystem(nullptr, subsystem.GetAddressOf()), E_INVALIDARG);
+    EXPECT_TRUE(target->exchange.received.empty());
 }
 
 TEST_F(ArgumentsTest, NullForResultsIsRefused) {

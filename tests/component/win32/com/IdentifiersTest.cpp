@@ -41,29 +41,6 @@ TEST(IdentifiersTest, IdentifierCrossesFieldByField) {
     EXPECT_EQ(FromGuid(identifier), contract::kProgrammingDeviceSubsystem);
 }
 
-TEST(IdentifiersTest, TextIsThatOfTheRegistry) {
-    EXPECT_EQ(IdentifierText(contract::kProgrammingDeviceSubsystem),
-              "{492DA5B7-AE9B-4AB6-962A-5637D9563537}");
-}
-
-TEST(IdentifiersTest, TextIsReadWithLettersOfEitherCase) {
-    for (const char* text :
-         {"{492DA5B7-AE9B-4AB6-962A-5637D9563537}", "{492da5b7-ae9b-4ab6-962a-5637d9563537}"}) {
-        EXPECT_EQ(ReadIdentifier(CBstr(text).Get()), contract::kProgrammingDeviceSubsystem) << text;
-    }
-}
-
-TEST(IdentifiersTest, AnyOtherTextIsNoIdentifier) {
-    using namespace std::string_view_literals;
-    EXPECT_EQ(ReadIdentifier(nullptr), std::nullopt);
-    for (const auto text :
-         {""sv, "492DA5B7-AE9B-4AB6-962A-5637D9563537"sv, "{492DA5B7-AE9B-4AB6-962A-5637D956353}"sv,
-          "{492DA5B7-AE9B-4AB6-962A-5637D956353G}"sv, "{492DA5B7-AE9B-4AB6-962A-5637D9563537} "sv,
-          "{492DA5B7-AE9B-4AB6-962A-5637D9563537}\0x"sv, "QRZ.KRX8Maintenance"sv}) {
-        EXPECT_EQ(ReadIdentifier(CBstr(text).Get()), std::nullopt) << text;
-    }
-}
-
 TEST(IdentifiersTest, HeaderGivesIdentifiersOfInterfacesToBothSides) {
     // C++ clients compare with __uuidof, others with the constants of the header.
     EXPECT_EQ(__uuidof(::IKrx20SwInfo), IID_IKrx20SwInfo);

@@ -89,10 +89,10 @@ TEST_F(AutomationTest, ClassInformationDescribesTheClass) {
     ASSERT_EQ(provider->GetClassInfo(info.GetAddressOf()), S_OK);
     TYPEATTR* attributes = nullptr;
     ASSERT_EQ(info->GetTypeAttr(&attributes), S_OK);
-    EXPECT_EQ(attributes->guid, MaintenanceClass());
+    EXPECT_EQ(attributes->guid, __uuidof(KRX8Maintenance));
     EXPECT_EQ(attributes->typekind, TKIND_COCLASS);
     info->ReleaseTypeAttr(attributes);
-    GUID source = MaintenanceClass();
+    GUID source = __uuidof(KRX8Maintenance);
     EXPECT_EQ(provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &source), E_FAIL);
     EXPECT_EQ(source, GUID_NULL);
 }

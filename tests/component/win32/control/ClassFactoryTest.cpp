@@ -6,9 +6,9 @@ namespace {
 
 class ClassFactoryTest : public testing::Test {
 protected:
-    void TearDown() override { EXPECT_TRUE(library.CanUnload()); }
+    void TearDown() override { EXPECT_EQ(library.CanUnloadNow(), S_OK); }
 
-    const CComponent library;
+    const support::CLoadedComponent library{KRX8_COMPONENT};
 };
 
 TEST_F(ClassFactoryTest, ControlReleasedAtOnceLeavesNothing) { library.CreateControl(); }

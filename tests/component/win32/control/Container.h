@@ -1,17 +1,20 @@
 #pragma once
 
-#include "tests/component/win32/control/Component.h"
+#include "component/win32/com/ComApi.h"
 #include "tests/component/win32/control/Site.h"
+#include "tests/support/win32/LoadedComponent.h"
 
 #include <cstdint>
 
 namespace controltests {
 
+using component::ComPtr;
+
 /// A container with one control, which it shows in a part of a window, and a message loop that
 /// hands keys to the control first.
 class CContainer {
 public:
-    CContainer(const CComponent& component, HWND window)
+    CContainer(const support::CLoadedComponent& component, HWND window)
         : m_control(component.CreateControl()), m_site(window) {}
 
     CSite& Site() { return m_site; }

@@ -68,7 +68,7 @@ void ControlFixture::ExpectNothingLeft() {
     EXPECT_EQ(host->device->SubscriberCount(), 0u);
     EXPECT_EQ(bridge->LiveExports(), 0u);
     EXPECT_EQ(bridge->LiveImports(), 0u);
-    EXPECT_TRUE(library.CanUnload());
+    EXPECT_EQ(library.CanUnloadNow(), S_OK);
 }
 
 }

@@ -40,7 +40,7 @@ protected:
     void TearDown() override;
     void ExpectNothingLeft();
 
-    const CComponent library;
+    const support::CLoadedComponent library{KRX8_COMPONENT};
     const std::unique_ptr<conformance::IFrontEndDriver> driver = conformance::MakeDriver();
     conformance::IFrontEndDriver& prompts = *driver;
     std::optional<win32tests::CHostWindow> window{std::in_place};

@@ -71,7 +71,7 @@ TEST_F(OleObjectTest, UserTypeIsACopyForTheCaller) {
 TEST_F(OleObjectTest, UserClassIsTheClassCreated) {
     CLSID identifier{};
     EXPECT_EQ(Object()->GetUserClassID(&identifier), S_OK);
-    EXPECT_EQ(identifier, MaintenanceClass());
+    EXPECT_EQ(identifier, __uuidof(KRX8Maintenance));
 }
 
 TEST_F(OleObjectTest, ThereAreNoVerbsForAMenu) {

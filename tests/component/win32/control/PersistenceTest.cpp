@@ -134,9 +134,9 @@ TEST_F(PersistenceTest, ControlIsNeverDirtyAndNamesItsClass) {
     EXPECT_EQ(Storages()->IsDirty(), S_FALSE);
     CLSID identifier{};
     EXPECT_EQ(Streams()->GetClassID(&identifier), S_OK);
-    EXPECT_EQ(identifier, MaintenanceClass());
+    EXPECT_EQ(identifier, __uuidof(KRX8Maintenance));
     EXPECT_EQ(Storages()->GetClassID(&identifier), S_OK);
-    EXPECT_EQ(identifier, MaintenanceClass());
+    EXPECT_EQ(identifier, __uuidof(KRX8Maintenance));
 }
 
 TEST_F(PersistenceTest, SavingIsToldToTheListeners) {

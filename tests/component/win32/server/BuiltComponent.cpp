@@ -11,17 +11,6 @@
 
 namespace component {
 
-namespace {
-
-template <class Function>
-Function Find(HMODULE module, const char* name) {
-    const FARPROC function = GetProcAddress(module, name);
-    EXPECT_NE(function, nullptr) << name;
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(function));
-}
-
-}
-
 std::filesystem::path OwnFolder() {
     wchar_t path[1024];
     const DWORD length = GetModuleFileNameW(nullptr, path, 1024);
@@ -47,8 +36,8 @@ std::optional<unsigned long> RunRegsvr32ToUnregister(const std::filesystem::path
 void ForgetRegistration() {
     RemoveTree(L"QRZ.KRX8Maintenance.1");
     RemoveTree(L"QRZ.KRX8Maintenance");
-    RemoveTree(L"CLSID\\{235783FE-1F74-487E-8561-9E890047927A}");
-    RemoveTree(L"TypeLib\\{315D7CB4-B70F-454D-8520-D76BBCAB99AD}");
+    RemoveTree(kClassKey);
+    RemoveTree(kLibraryKey);
     for (const wchar_t digit : std::wstring_view(L"0123456789")) {
         RemoveTree(L"Component Categories\\{A17A3B6" + std::wstring(1, digit) +
                    L"-97BE-4310-AAA9-6B0E8C0FA36B}");
@@ -70,24 +59,6 @@ bool AwaitUnloading() {
         std::this_thread::yield();
     }
     return true;
-}
-
-CLoadedComponent::CLoadedComponent(const std::filesystem::path& file)
-    : m_module(LoadLibraryW(file.c_str())) {
-    EXPECT_NE(m_module, nullptr) << file;
-}
-
-CLoadedComponent::~CLoadedComponent() { FreeLibrary(m_module); }
-
-HRESULT CLoadedComponent::GetClassObject(REFCLSID classIdentifier, REFIID interfaceIdentifier,
-                                         void** result) const {
-    using Function = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
-    return Find<Function>(m_module, "DllGetClassObject")(classIdentifier, interfaceIdentifier,
-                                                         result);
-}
-
-HRESULT CLoadedComponent::Call(const char* name) const {
-    return Find<HRESULT(STDAPICALLTYPE*)()>(m_module, name)();
 }
 
 }

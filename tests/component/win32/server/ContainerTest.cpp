@@ -4,6 +4,7 @@
 #include "tests/component/win32/server/SystemContainer.h"
 #include "tests/frontend/win32/HostWindow.h"
 #include "tests/frontend/win32/Input.h"
+#include "tests/support/win32/LoadedComponent.h"
 
 #include <optional>
 
@@ -176,7 +177,7 @@ TEST_F(ContainerTest, ControlInAForeignWindowEndsWithItAfterTheLastReference) {
 }
 
 TEST_F(ContainerTest, ClosedContainerLetsTheLibraryGo) {
-    const CLoadedComponent component;
+    const support::CLoadedComponent component(ComponentFile());
     EXPECT_EQ(component.CanUnloadNow(), S_FALSE);
     DestroyWindow(m_container);
     Pump();

@@ -1,13 +1,11 @@
 #include "tests/component/win32/server/BuiltComponent.h"
+#include "tests/support/win32/LoadedComponent.h"
 
 #include <gtest/gtest.h>
 
 namespace component {
 
 namespace {
-
-constexpr CLSID kClass = {
-    0x235783FE, 0x1F74, 0x487E, {0x85, 0x61, 0x9E, 0x89, 0x00, 0x47, 0x92, 0x7A}};
 
 /// The four functions of the library, called without the system in between.
 class EntryPointsTest : public testing::Test {
@@ -20,7 +18,7 @@ protected:
         return factory;
     }
 
-    const CLoadedComponent m_component;
+    const support::CLoadedComponent m_component{ComponentFile()};
 };
 
 TEST_F(EntryPointsTest, UntouchedLibraryCanBeUnloaded) {

@@ -1,6 +1,7 @@
 #include "tests/component/win32/server/RegistrationFixture.h"
 
 #include "tests/simulator/TemporaryFolder.h"
+#include "tests/support/win32/LoadedComponent.h"
 
 #include <gmock/gmock.h>
 
@@ -53,7 +54,7 @@ private:
 
 class RegistrationFailureTest : public RegistrationFixture {
 protected:
-    HRESULT Register() { return CLoadedComponent().Register(); }
+    HRESULT Register() { return support::CLoadedComponent(ComponentFile()).Register(); }
 
     /// What the system says when it is told to register that library's type library; systems
     /// disagree.
@@ -114,7 +115,7 @@ TEST_F(RegistrationFailureTest, CategoryThatIsRefusedStopsNeitherTheOthersNorThe
 
 TEST_F(RegistrationFailureTest, CopyWithoutScriptRegistersNothing) {
     const CCopyWithout copy("REGISTRY");
-    EXPECT_EQ(CLoadedComponent(copy.File()).Register(), E_FAIL);
+    EXPECT_EQ(support::CLoadedComponent(copy.File()).Register(), E_FAIL);
     EXPECT_THAT(DumpClass(), IsEmpty());
     ExpectNoTypeLibrary();
     ExpectNoCategories();
@@ -123,14 +124,14 @@ TEST_F(RegistrationFailureTest, CopyWithoutScriptRegistersNothing) {
 TEST_F(RegistrationFailureTest, CopyWithoutScriptUnregistersTheTypeLibraryOnly) {
     ASSERT_EQ(Register(), S_OK);
     const CCopyWithout copy("REGISTRY");
-    EXPECT_EQ(CLoadedComponent(copy.File()).Unregister(), E_FAIL);
+    EXPECT_EQ(support::CLoadedComponent(copy.File()).Unregister(), E_FAIL);
     EXPECT_THAT(DumpClass(), ElementsAreArray(KeysOfClass(ComponentFile())));
     ExpectNoTypeLibrary();
 }
 
 TEST_F(RegistrationFailureTest, CopyWithoutTypeLibraryRegistersTheClassOnly) {
     const CCopyWithout copy("TYPELIB");
-    EXPECT_EQ(CLoadedComponent(copy.File()).Register(), TYPE_E_CANTLOADLIBRARY);
+    EXPECT_EQ(support::CLoadedComponent(copy.File()).Register(), TYPE_E_CANTLOADLIBRARY);
     EXPECT_THAT(DumpClass(), ElementsAreArray(KeysOfClass(copy.File())));
     ExpectNoTypeLibrary();
     ExpectNoCategories();
@@ -138,7 +139,7 @@ TEST_F(RegistrationFailureTest, CopyWithoutTypeLibraryRegistersTheClassOnly) {
 
 TEST_F(RegistrationFailureTest, ThreadsThatHaveNotPreparedComRegisterAllTheSame) {
     HRESULT registered = E_UNEXPECTED;
-    std::thread([&] { registered = CLoadedComponent().Register(); }).join();
+    std::thread([&] { registered = support::CLoadedComponent(ComponentFile()).Register(); }).join();
     EXPECT_EQ(registered, S_OK);
     EXPECT_THAT(ListedCategories(), ElementsAreArray(TenCategories()));
 }
@@ -147,7 +148,7 @@ TEST_F(RegistrationFailureTest, ThreadsOfTheOtherApartmentRegisterAllTheSame) {
     HRESULT registered = E_UNEXPECTED;
     std::thread([&] {
         ASSERT_EQ(CoInitializeEx(nullptr, COINIT_MULTITHREADED), S_OK);
-        registered = CLoadedComponent().Register();
+        registered = support::CLoadedComponent(ComponentFile()).Register();
         CoUninitialize();
     }).join();
     EXPECT_EQ(registered, S_OK);

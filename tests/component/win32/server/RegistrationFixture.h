@@ -9,8 +9,6 @@ namespace component {
 
 inline constexpr wchar_t kVersionKey[] = L"QRZ.KRX8Maintenance.1";
 inline constexpr wchar_t kProgramKey[] = L"QRZ.KRX8Maintenance";
-inline constexpr wchar_t kClassKey[] = L"CLSID\\{235783FE-1F74-487E-8561-9E890047927A}";
-inline constexpr wchar_t kLibraryKey[] = L"TypeLib\\{315D7CB4-B70F-454D-8520-D76BBCAB99AD}";
 /// That of the dual interface.
 inline constexpr wchar_t kInterfaceKey[] = L"Interface\\{B513330E-DAEF-457D-9A6B-FDF523F15C5C}";
 

@@ -6,12 +6,12 @@
 #include <string>
 #include <string_view>
 
-namespace panel {
+namespace contract {
 
 /// As registries write identifiers: "{235783FE-1F74-487E-8561-9E890047927A}".
-std::string FormatGuid(const contract::Guid& guid);
+std::string FormatGuid(const Guid& guid);
 
 /// Reads that form, letters of either case; nothing for any other text.
-std::optional<contract::Guid> ParseGuid(std::string_view text);
+std::optional<Guid> ParseGuid(std::string_view text);
 
 }

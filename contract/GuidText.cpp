@@ -1,10 +1,10 @@
-#include "panel/registration/GuidText.h"
+#include "contract/GuidText.h"
 
 #include <array>
 #include <charconv>
 #include <cstdio>
 
-namespace panel {
+namespace contract {
 
 namespace {
 
@@ -38,7 +38,7 @@ Number ReadHex(std::string_view text, std::size_t place) {
 
 }
 
-std::string FormatGuid(const contract::Guid& guid) {
+std::string FormatGuid(const Guid& guid) {
     std::array<char, kForm.size() + 1> text;
     const auto& tail = guid.data4;
     std::snprintf(text.data(), text.size(), "{%08lX-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X}",
@@ -47,15 +47,15 @@ std::string FormatGuid(const contract::Guid& guid) {
     return text.data();
 }
 
-std::optional<contract::Guid> ParseGuid(std::string_view text) {
+std::optional<Guid> ParseGuid(std::string_view text) {
     if (!HasForm(text)) {
         return std::nullopt;
     }
     constexpr std::size_t kTail[] = {20, 22, 25, 27, 29, 31, 33, 35};
-    contract::Guid guid{ReadHex<std::uint32_t>(text, 1),
-                        ReadHex<std::uint16_t>(text, 10),
-                        ReadHex<std::uint16_t>(text, 15),
-                        {}};
+    Guid guid{ReadHex<std::uint32_t>(text, 1),
+              ReadHex<std::uint16_t>(text, 10),
+              ReadHex<std::uint16_t>(text, 15),
+              {}};
     for (std::size_t i = 0; i < guid.data4.size(); ++i) {
         guid.data4[i] = ReadHex<std::uint8_t>(text, kTail[i]);
     }

@@ -10,11 +10,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr GUID kLibrary = {
-    0x315D7CB4, 0xB70F, 0x454D, {0x85, 0x20, 0xD7, 0x6B, 0xBC, 0xAB, 0x99, 0xAD}};
-constexpr CLSID kClass = {
-    0x235783FE, 0x1F74, 0x487E, {0x85, 0x61, 0x9E, 0x89, 0x00, 0x47, 0x92, 0x7A}};
-
 std::string Take(BSTR text) {
     const std::string taken = win32::FromWide(text ? text : L"");
     SysFreeString(text);
@@ -27,8 +22,9 @@ std::string NameOf(ITypeInfo& info, MEMBERID member = MEMBERID_NIL) {
     return Take(name);
 }
 
-/// As a programming tool reads it from the file of the component, which is not registered.
-class TypeLibraryTest : public testing::Test {
+/// The type library as a programming tool reads it from the file of the component, which is not
+/// registered.
+class LibraryFileTest : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_EQ(LoadTypeLibEx(ComponentFile().c_str(), REGKIND_NONE, m_library.GetAddressOf()),
@@ -44,7 +40,7 @@ protected:
     ComPtr<ITypeLib> m_library;
 };
 
-TEST_F(TypeLibraryTest, LibraryHasItsIdentifierVersionAndLocale) {
+TEST_F(LibraryFileTest, LibraryHasItsIdentifierVersionAndLocale) {
     TLIBATTR* attributes = nullptr;
     ASSERT_EQ(m_library->GetLibAttr(&attributes), S_OK);
     EXPECT_EQ(attributes->guid, kLibrary);
@@ -55,7 +51,7 @@ TEST_F(TypeLibraryTest, LibraryHasItsIdentifierVersionAndLocale) {
     m_library->ReleaseTLibAttr(attributes);
 }
 
-TEST_F(TypeLibraryTest, LibraryHasItsNames) {
+TEST_F(LibraryFileTest, LibraryHasItsNames) {
     BSTR name = nullptr;
     BSTR help = nullptr;
     ASSERT_EQ(m_library->GetDocumentation(-1, &name, &help, nullptr, nullptr), S_OK);
@@ -63,7 +59,7 @@ TEST_F(TypeLibraryTest, LibraryHasItsNames) {
     EXPECT_EQ(Take(help), "KRX8Maintenance 1.0 Type Library");
 }
 
-TEST_F(TypeLibraryTest, ClassListsItsInterfaces) {
+TEST_F(LibraryFileTest, ClassListsItsInterfaces) {
     const auto info = Find(kClass);
     TYPEATTR* attributes = nullptr;
     ASSERT_EQ(info->GetTypeAttr(&attributes), S_OK);
@@ -83,7 +79,7 @@ TEST_F(TypeLibraryTest, ClassListsItsInterfaces) {
                                    "IConnectionClient", "ISetSubsystemAccess", "IGoClient"));
 }
 
-TEST_F(TypeLibraryTest, DefaultInterfaceOfTheClassIsTheDualOne) {
+TEST_F(LibraryFileTest, DefaultInterfaceOfTheClassIsTheDualOne) {
     const auto info = Find(kClass);
     INT flags = 0;
     ASSERT_EQ(info->GetImplTypeFlags(0, &flags), S_OK);
@@ -103,13 +99,13 @@ TEST_F(TypeLibraryTest, DefaultInterfaceOfTheClassIsTheDualOne) {
     table->ReleaseTypeAttr(attributes);
 }
 
-TEST_F(TypeLibraryTest, PropertiesHaveTheirNamesAndNumbers) {
+TEST_F(LibraryFileTest, PropertiesHaveTheirNamesAndNumbers) {
     const auto dual = Find(IID_IKRX8Maintenance);
     EXPECT_EQ(NameOf(*dual.Get(), 1), "DeviceType");
     EXPECT_EQ(NameOf(*dual.Get(), 2), "DeviceMode");
 }
 
-TEST_F(TypeLibraryTest, EveryTypeHasANameAndIsFoundByIt) {
+TEST_F(LibraryFileTest, EveryTypeHasANameAndIsFoundByIt) {
     EXPECT_GT(m_library->GetTypeInfoCount(), 30u);
     for (UINT i = 0; i < m_library->GetTypeInfoCount(); ++i) {
         ComPtr<ITypeInfo> info;
