@@ -16,7 +16,8 @@ constexpr interception::Operation kQuery{"HardwareInfo.GetSerialNumber",
                                          interception::Delivers::Value};
 
 /// A call that does nothing, to the worker and back: what the worker adds to each device call.
-/// `unpainted`: no event is handled in between, so that the hand-over alone is measured.
+/// With a paint interval longer than the run no event is handled in between, so that the hand-over
+/// alone is measured.
 void EmptyCall(benchmark::State& state, workstation::CWorkerInterceptor::Limits limits) {
     workstation::ICallObserver observer;
     workstation::CWorkerInterceptor worker(std::make_unique<workstation::CQtEventLoop>(), observer,

@@ -1,4 +1,5 @@
-# Sourced by run, after setup.sh: looks after the user's copies of the sample devices.
+# Sourced by run and bench/peers/run, after setup.sh: looks after the user's copies of the sample
+# devices.
 #
 # A copy that has been deleted comes back. Newer samples replace the copies that the user has not
 # changed and leave the others alone. What was copied last lies in a folder of records, to compare

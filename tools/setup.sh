@@ -1,4 +1,5 @@
-# Shared by run and test, which source it: install what is missing, configure, build.
+# Shared by run, test and the scripts in this folder, which source it: install what is missing,
+# configure, build.
 # Everything said here goes to stderr, so that stdout belongs to the program that is run.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)

@@ -13,10 +13,14 @@
 namespace {
 
 constexpr const char* kUsage = R"(Usage: krx8-register [--unregister] LIBRARY
+       krx8-register --help
 
 Writes where the component LIBRARY is into the machine's catalogue, so that hosts find it, or
-with --unregister takes that back. The catalogue is the file that KRX8_REGISTRY names, else
-/var/lib/krx8/registry.json.
+with --unregister takes that back. The catalogue is the file that the environment variable
+KRX8_REGISTRY names, else /var/lib/krx8/registry.json. Its folder must be there and writable.
+
+Exit status: 0 done; 1 the library cannot be loaded or the catalogue not changed, which one line
+on stderr says; 2 a wrong command line.
 )";
 
 constexpr int kDone = 0;

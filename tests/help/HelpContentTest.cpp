@@ -234,6 +234,6 @@ INSTANTIATE_TEST_SUITE_P(Dialogs, HelpOnMessageTest,
                                          "Programming Device's SW Update",
                                          "Would you like to update the Programming Device now?",
                                          "Flash Update Version", "Device's SW Version",
-                                         "Self-test results", "HRESULT 0x%08x (%d)"));
+                                         "Self-test results", "HRESULT 0x80004005 (-2147467259)"));
 
 }
