@@ -4,6 +4,7 @@
 #include "tests/support/win32/Apartment.h"
 #include "component/win32/com/Bstr.h"
 #include "component/win32/com/TypeLibrary.h"
+#include "contract/GuidText.h"
 #include "frontend/win32/Module.h"
 #include "tests/component/win32/com/BridgeFixture.h"
 #include "tests/component/win32/com/EventDoubles.h"
