@@ -6,6 +6,7 @@ that neither the sources nor the build folder change and several can be tried at
 
 import argparse
 import json
+import resource
 import shlex
 import subprocess
 import sys
@@ -18,9 +19,11 @@ from pathlib import Path
 from mutants import Mutant, choose, mutants_of
 
 LIBRARY = "panel/libkrx8_panel.a"
-# Quickest first: what one notices is not shown to the next. The second figure is the longest that
-# its tests may run, in seconds.
-PROGRAMS = [("tests/panel/panel_tests", 120), ("tests/sweeps/panel_sweeps", 600)]
+# Quickest first: what one notices is not shown to the next. The second figure is the processor time
+# after which its tests are ended, in seconds: a loop without end is noticed, a busy machine is not.
+PROGRAMS = [("tests/panel/panel_tests", 60), ("tests/sweeps/panel_sweeps", 400)]
+# A mutant may also wait for something that never comes.
+LONGEST_WAIT = 3600
 NOT_COMPILED = "not compiled"
 SURVIVED = "survived"
 
@@ -56,10 +59,13 @@ def with_value(command: list[str], option: str, value: str) -> list[str]:
 
 
 def run(command: list[str], folder: Path, seconds: int = 300) -> bool:
+    def limit() -> None:
+        resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
+
     try:
         return subprocess.run(command, cwd=folder, stdout=subprocess.DEVNULL,
                               stderr=subprocess.DEVNULL, stdin=subprocess.DEVNULL,
-                              timeout=seconds).returncode == 0
+                              preexec_fn=limit, timeout=LONGEST_WAIT).returncode == 0
     except subprocess.TimeoutExpired:
         return False
 
