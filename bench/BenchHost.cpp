@@ -71,6 +71,10 @@ void CBenchHost::Refresh() {
     m_host.RaiseConnectionState(contract::kSuccess, contract::kConnectionDeviceReady);
 }
 
+void CBenchHost::LoseDevice() {
+    m_host.RaiseConnectionState(contract::kSuccess, contract::kConnectionDeviceGone);
+}
+
 std::shared_ptr<contract::IProgrammingDeviceSubsystem> CBenchHost::Device() const {
     std::shared_ptr<contract::ISubsystem> subsystem;
     std::shared_ptr<contract::IProgrammingDeviceSubsystem> device;

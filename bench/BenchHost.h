@@ -36,6 +36,8 @@ public:
 
     /// Connection state 7: the panel reads the type and refreshes.
     void Refresh();
+    /// Connection state 5: the device is gone.
+    void LoseDevice();
     /// One progress message from the device.
     void RaiseMessage(std::uint32_t done, std::uint32_t total);
     /// One message without a percentage.

@@ -28,6 +28,7 @@ namespace {
 constexpr std::int64_t kMillion = 1'000'000;
 /// Ten hours at a thousand a second.
 constexpr std::int64_t kMessages = 10 * 3600 * 1000;
+constexpr std::uint32_t kOperation = kMessages / 1000;
 /// Allocators and caches keep a little.
 constexpr double kNothing = 64.0 * 1024;
 
@@ -139,19 +140,23 @@ void WriteLog() {
         });
 }
 
-/// As one operation: its percentage changes a hundred times.
+/// As a thousand operations, whose percentages change a hundred times each. The log is emptied
+/// after each, since every percentage adds a line.
 template <class FrontEnd>
 void HearMessages() {
     FrontEnd panel(0);
     Run(Name<FrontEnd>("36,000,000 messages of progress"), kMessages, Growth::NotDue,
         [&](std::int64_t number) {
-            panel.host.RaiseMessage(static_cast<std::uint32_t>(number + 1),
-                                    static_cast<std::uint32_t>(kMessages));
-            if (number % 1000 == 0) {
+            const auto done = static_cast<std::uint32_t>(number % kOperation + 1);
+            panel.host.RaiseMessage(done, kOperation);
+            if (done % 1000 == 0) {
                 panel.Settle();
             }
+            if (done == kOperation) {
+                bench::Require(panel.LogLines() >= 100, "the percentages are not in the log");
+                panel.ClearLog();
+            }
         });
-    bench::Require(panel.LogLines() >= 100, "the percentages are not in the log");
 }
 
 /// The log is emptied, since each connection adds its lines to it.
@@ -162,8 +167,7 @@ void Reconnect() {
         [&](std::int64_t) {
             panel.host.Refresh();
             bench::Require(panel.Rows() == 100, "the list is not complete");
-            panel.host.Host().RaiseConnectionState(contract::kSuccess,
-                                                   contract::kConnectionDeviceGone);
+            panel.host.LoseDevice();
             panel.ClearLog();
         });
 }
