@@ -3,7 +3,6 @@
 #include "contract/device/ExternalStorages.h"
 #include "contract/device/HardwareInfo.h"
 
-#include <cstdio>
 #include <utility>
 
 namespace support {
@@ -11,16 +10,6 @@ namespace support {
 using contract::Status;
 
 namespace {
-
-std::string Text(const std::string& text) { return text; }
-std::string Text(std::int32_t number) { return std::to_string(number); }
-std::string Text(bool flag) { return flag ? "true" : "false"; }
-
-std::string Hex(std::uint32_t number) {
-    char text[11];
-    std::snprintf(text, sizeof text, "0x%08X", number);
-    return text;
-}
 
 /// A device's values, with another type in the place of its own.
 class COtherType final : public contract::IHardwareInfo {
@@ -67,15 +56,13 @@ private:
     const std::int32_t m_count;
 };
 
-template <class First, class... Rest>
-std::string Called(const char* operation, const First& first, const Rest&... rest) {
-    return std::string(operation) + "(" + Text(first) + ((", " + Text(rest)) + ... + ")");
 }
 
+Status CWritingDevice::ReportMode() {
+    return m_control->RequestMode(contract::ModeRequest::Report);
 }
 
-Status CWritingDevice::Note(const std::string& call) {
-    calls.push_back(call);
+Status CWritingDevice::AnswerTo(const std::string& call) {
     return answer ? answer(call) : contract::kSuccess;
 }
 
@@ -162,63 +149,5 @@ Status CWritingDevice::GetExternalStorages(std::shared_ptr<contract::IExternalSt
     storages = std::make_shared<CToldStorages>(*toldStorages);
     return contract::kSuccess;
 }
-
-Status CWritingDevice::RequestMode(contract::ModeRequest request) {
-    return request == contract::ModeRequest::Report
-               ? m_control->RequestMode(request)
-               : Note(Called("RequestMode", static_cast<std::int32_t>(request)));
-}
-
-Status CWritingDevice::UploadPhoneFile(const std::string& path, std::int32_t destination,
-                                       std::int32_t method, std::int32_t& result) {
-    result = contract::kUnspecifiedFailure.Code();
-    return Note(Called("UploadPhoneFile", path, destination, method));
-}
-
-Status CWritingDevice::MoveFile(std::int32_t type, std::int32_t id, std::int32_t destination,
-                                std::int32_t reserved) {
-    return Note(Called("MoveFile", type, id, destination, reserved));
-}
-
-Status CWritingDevice::DeleteFile(std::int32_t type, std::int32_t id) {
-    return Note(Called("DeleteFile", type, id));
-}
-
-Status CWritingDevice::UploadCode(const std::string& path, std::int32_t codeKind,
-                                  std::int32_t reserved, std::int32_t mode) {
-    return Note(Called("UploadCode", path, codeKind, reserved, mode));
-}
-
-Status CWritingDevice::UpdateFromIniFile(const std::string& path) {
-    return Note(Called("UpdateFromIniFile", path));
-}
-
-Status CWritingDevice::RerunMediaTests(std::uint32_t mask) {
-    return Note(Called("RerunMediaTests", Hex(mask)));
-}
-
-Status CWritingDevice::PrepareMedia(contract::Medium medium) {
-    return Note(Called("PrepareMedia", static_cast<std::int32_t>(medium)));
-}
-
-Status CWritingDevice::SetIpAddress(contract::AddressValue address) {
-    return Note(Called("SetIpAddress", Hex(address)));
-}
-
-Status CWritingDevice::SetDhcp(bool useDhcp) { return Note(Called("SetDhcp", useDhcp)); }
-
-Status CWritingDevice::SetSubnetMask(contract::AddressValue mask) {
-    return Note(Called("SetSubnetMask", Hex(mask)));
-}
-
-Status CWritingDevice::SetGateway(contract::AddressValue gateway) {
-    return Note(Called("SetGateway", Hex(gateway)));
-}
-
-Status CWritingDevice::SetDescription(const std::string& description) {
-    return Note(Called("SetDescription", description));
-}
-
-Status CWritingDevice::ApplyConfiguration() { return Note("ApplyConfiguration()"); }
 
 }

@@ -4,29 +4,25 @@
 #include "contract/device/FileListing.h"
 #include "contract/device/FreeResources.h"
 #include "contract/device/HardwareInfo.h"
-#include "contract/device/Krx10CommunicationConfiguration.h"
-#include "contract/device/Krx10Control.h"
 #include "contract/device/Krx20SwInfo.h"
-#include "contract/device/ProgrammingDeviceControl.h"
 #include "contract/device/ProgrammingDeviceControlEvents.h"
 #include "contract/device/ProgrammingDeviceSubsystem.h"
 #include "contract/device/SelfTestResults.h"
 #include "contract/device/SoftwareInfo.h"
 #include "simulator/EventSource.h"
+#include "tests/support/NotingDevice.h"
 
 #include <functional>
 #include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace controltests {
 
 /// A KRX-20 in Normal mode with the files alpha.fia (19, 1), beta.fia (21, 2) and version.fia
-/// (22, 3), of whose self-tests one has failed. Of what would change it, it only notes the call
-/// with its arguments, such as "DeleteFile(22, 2)".
-class CSmallDevice final : public contract::IProgrammingDeviceSubsystem,
-                           public contract::IProgrammingDeviceControl,
+/// (22, 3), of whose self-tests one has failed. What would change it is only noted.
+class CSmallDevice final : public support::CNotingDevice,
+                           public contract::IProgrammingDeviceSubsystem,
                            public contract::IHardwareInfo,
                            public contract::ISoftwareInfo,
                            public contract::IKrx20SwInfo,
@@ -34,18 +30,12 @@ class CSmallDevice final : public contract::IProgrammingDeviceSubsystem,
                            public contract::ISelfTestResults,
                            public contract::IFileListing,
                            public contract::IExternalStorages,
-                           public contract::IKrx10Control,
-                           public contract::IKrx10CommunicationConfiguration,
-                           public contract::IKrx10CommunicationConfiguration2,
                            public std::enable_shared_from_this<CSmallDevice> {
 public:
-    using Status = contract::Status;
     using Events = contract::_IProgrammingDeviceControlEvents;
     template <class Interface>
     using Shared = std::shared_ptr<Interface>;
 
-    /// What it was told to do, in order.
-    std::vector<std::string> calls;
     /// Runs inside each call that asks it for an object or would change it, and says what that
     /// returns.
     std::function<Status(const std::string& call)> inside;
@@ -84,16 +74,6 @@ public:
     Status GetExternalStorages(Shared<contract::IExternalStorages>& storages) override {
         return Give("GetExternalStorages", storages);
     }
-    Status RequestMode(contract::ModeRequest request) override;
-    Status UploadPhoneFile(const std::string& path, std::int32_t destination, std::int32_t method,
-                           std::int32_t& result) override;
-    Status MoveFile(std::int32_t type, std::int32_t id, std::int32_t destination,
-                    std::int32_t reserved) override;
-    Status DeleteFile(std::int32_t type, std::int32_t id) override;
-    Status UploadCode(const std::string& path, std::int32_t codeKind, std::int32_t reserved,
-                      std::int32_t mode) override;
-    Status UpdateFromIniFile(const std::string& path) override;
-    Status RerunMediaTests(std::uint32_t mask) override;
 
     // contract::IHardwareInfo, ISoftwareInfo and IKrx20SwInfo
     Status GetDeviceType(std::int32_t& type) override { return Tell(4, type); }
@@ -140,7 +120,6 @@ public:
         Shared<contract::IKrx10CommunicationConfiguration>& configuration) override {
         return Give("GetCommunicationConfiguration", configuration);
     }
-    Status PrepareMedia(contract::Medium medium) override;
     Status QueryCommunicationConfiguration2(
         Shared<contract::IKrx10CommunicationConfiguration2>& configuration) override {
         return Give("QueryCommunicationConfiguration2", configuration);
@@ -156,12 +135,6 @@ public:
     Status GetUseDhcp(bool& useDhcp) override { return Tell(false, useDhcp); }
     Status GetDescription(std::string& text) override { return Tell("bench 3", text); }
     Status GetMacAddress(std::string& text) override { return Tell("00-00-5E-00-53-14", text); }
-    Status SetIpAddress(contract::AddressValue address) override;
-    Status SetDhcp(bool useDhcp) override;
-    Status SetSubnetMask(contract::AddressValue mask) override;
-    Status SetGateway(contract::AddressValue gateway) override;
-    Status SetDescription(const std::string& description) override;
-    Status ApplyConfiguration() override;
 
 private:
     template <class Interface>
@@ -177,7 +150,8 @@ private:
         result = value;
         return contract::kSuccess;
     }
-    Status Note(const std::string& call);
+    Status ReportMode() override;
+    Status AnswerTo(const std::string& call) override { return Run(call); }
     /// A copy, since what runs inside may be replaced from there.
     Status Run(const std::string& call) {
         const auto act = inside;
