@@ -1,12 +1,17 @@
 #include "component/linux/CatalogueRegistrar.h"
 
+#include "contract/ErrorInfo.h"
 #include "contract/GuidText.h"
 #include "frontend/registry/Catalogue.h"
+#include "frontend/registry/SystemError.h"
+#include "panel/control/Registry.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <iterator>
 
 namespace component {
 
@@ -16,10 +21,28 @@ using registry::Settings;
 
 namespace {
 
+struct Reason {
+    int error;
+    const char* text;
+};
+
+constexpr Reason kReasons[] = {
+    {registry::kPathNotFound, "something on the way to it is not a folder"},
+    {registry::kAccessDenied, "you may not write there"},
+    {registry::kInvalidData, "it is damaged"},
+    {registry::kDiskFull, "there is no room left"},
+};
+
 // The registry's error numbers become statuses as on Windows (HRESULT_FROM_WIN32 of winerror.h).
 Status FromErrorNumber(int error) {
-    return error == 0 ? contract::kSuccess
-                      : Status::FromBits(0x80070000u | static_cast<std::uint32_t>(error));
+    if (error == panel::kRegistrySuccess) {
+        return contract::kSuccess;
+    }
+    const auto* reason = std::ranges::find(kReasons, error, &Reason::error);
+    if (reason != std::end(kReasons)) {
+        contract::SetErrorInfo(reason->text);
+    }
+    return Status::FromBits(0x80070000u | static_cast<std::uint32_t>(error));
 }
 
 void RemoveKey(Settings& settings, const std::string& key) {

@@ -17,7 +17,7 @@ constexpr const char* kUsage = R"(Usage: krx8-register [--unregister] LIBRARY
 
 Writes where the component LIBRARY is into the machine's catalogue, so that hosts find it, or
 with --unregister takes that back. The catalogue is the file that the environment variable
-KRX8_REGISTRY names, else /var/lib/krx8/registry.json. Its folder must be there and writable.
+KRX8_REGISTRY names, else /var/lib/krx8/registry.json. A missing folder is made.
 
 Exit status: 0 done; 1 the library cannot be loaded or the catalogue not changed, which one line
 on stderr says; 2 a wrong command line.

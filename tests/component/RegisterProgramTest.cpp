@@ -69,10 +69,21 @@ TEST_F(RegisterProgramTest, FileThatIsNoLibraryIsNamed) {
 TEST_F(RegisterProgramTest, CatalogueThatIsDamagedIsNamedAndStaysAsItIs) {
     std::ofstream(m_registry.Path()) << "{ damaged";
     const Outcome outcome = StartProgram(KRX8_COMPONENT);
-    EXPECT_EQ(outcome.output,
-              "krx8-register: " + m_registry.Path() + " cannot be changed (0x8007000d)\n");
+    EXPECT_EQ(outcome.output, "krx8-register: " + m_registry.Path() +
+                                  " cannot be changed (0x8007000d): it is damaged\n");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(Catalogue(), "{ damaged");
+}
+
+TEST_F(RegisterProgramTest, CatalogueBelowAFileIsRefusedWithTheReason) {
+    const std::string file = m_registry.Path();
+    std::ofstream(file) << "{}";
+    setenv("KRX8_REGISTRY", (file + "/registry.json").c_str(), 1);
+    const Outcome outcome = StartProgram(KRX8_COMPONENT);
+    EXPECT_EQ(outcome.output, "krx8-register: " + file +
+                                  "/registry.json cannot be changed (0x80070003): something on "
+                                  "the way to it is not a folder\n");
+    EXPECT_EQ(outcome.status, 1);
 }
 
 TEST_F(RegisterProgramTest, ReasonThatTheComponentGivesFollowsTheStatus) {
