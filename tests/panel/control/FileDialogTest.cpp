@@ -41,6 +41,7 @@ TEST(FileDialogTest, NameWithAnExtensionStaysAsItIs) {
     EXPECT_EQ(WithDefaultExtension("/tmp/code.", "txt"), "/tmp/code.");
     EXPECT_EQ(WithDefaultExtension("/tmp/code", ""), "/tmp/code");
     EXPECT_EQ(WithDefaultExtension("/tmp/", "txt"), "/tmp/");
+    EXPECT_EQ(WithDefaultExtension("/tmp/code.b~1", "txt"), "/tmp/code.b~1");
 }
 
 TEST(FileDialogTest, DotInAFolderIsNoExtension) {

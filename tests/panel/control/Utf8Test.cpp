@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <string_view>
 
 namespace panel {
 namespace {
@@ -45,6 +45,19 @@ TEST(Utf8Test, CutToUtf16UnitsCountsSurrogatePairsTwice) {
     EXPECT_EQ(CutToUtf16Units("a\u20AC\U0001F600z", 4), "a\u20AC\U0001F600");
     EXPECT_EQ(CutToUtf16Units("a\u20AC\U0001F600z", 5), "a\u20AC\U0001F600z");
     EXPECT_EQ(CutToUtf16Units("\xFF\xC3", 1), "\xFF");
+}
+
+TEST(Utf8Test, LeadByteTellsTheLengthOfACharacter) {
+    for (const std::string_view character :
+         {"\xC0\x80", "\xDF\xBF", "\xE0\x80\x80", "\xEF\xBF\xBF"}) {
+        EXPECT_EQ(CutToUtf16Units(character, 1), character);
+    }
+    for (const std::string_view character : {"\xF0\x80\x80\x80", "\xF7\xBF\xBF\xBF"}) {
+        EXPECT_EQ(CutToUtf16Units(character, 2), character);
+        EXPECT_EQ(CutToUtf16Units(character, 1), "");
+    }
+    EXPECT_EQ(CutToUtf16Units("\xBF\x80", 1), "\xBF");
+    EXPECT_EQ(CutToUtf16Units("\xF8\x80\x80\x80", 1), "\xF8");
 }
 
 TEST(Utf8Test, EqualsIgnoringCaseFoldsLatinLettersOnly) {
