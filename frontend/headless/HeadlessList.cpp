@@ -32,9 +32,9 @@ void ShiftForInsertion(int& row, int index) {
 }
 
 void CHeadlessList::InsertColumn(int index, const panel::ListColumn& column) {
-    const int count = static_cast<int>(m_columns.size());
-    if (index < 0 || index > count) {
-        index = count;
+    // Front ends differ in what they make of such a place, so that nobody may count on it.
+    if (index < 0 || index > static_cast<int>(m_columns.size())) {
+        return;
     }
     m_rows.InsertColumn(index);
     m_columns.insert(m_columns.begin() + index,

@@ -78,6 +78,7 @@ public:
 
     // List
 
+    /// `index` is from 0 to the number of columns.
     virtual void InsertColumn(ControlId list, int index, const ListColumn& column) = 0;
     /// Inserts a row whose first cell is `text`, with key 0, before row `index` (at the end when
     /// there is none), and returns its index.

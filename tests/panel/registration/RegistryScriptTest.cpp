@@ -53,6 +53,16 @@ TEST(RegistryScriptTest, ApostrophesMakeANameOfAnything) {
     EXPECT_EQ(root->keys[2].name, "");
 }
 
+TEST(RegistryScriptTest, WordMayFollowAnApostropheAtOnce) {
+    const auto root = ParseRegistryScript("HKCR { A = s 'text'{ B } C = s 'more'}");
+    ASSERT_TRUE(root);
+    ASSERT_EQ(root->keys.size(), 2u);
+    EXPECT_EQ(root->keys[0].text, "text");
+    ASSERT_EQ(root->keys[0].keys.size(), 1u);
+    EXPECT_EQ(root->keys[0].keys[0].name, "B");
+    EXPECT_EQ(root->keys[1].text, "more");
+}
+
 TEST(RegistryScriptTest, WhatIsNoScriptIsRefused) {
     for (const char* script :
          {"", "HKCR", "HKCR {", "HKCR { } }", "HKCR { A = }", "HKCR { A = 'text' }",
