@@ -11,6 +11,9 @@ void CWindowStack::OpenPanel(CHeadlessView& view) {
 }
 
 void CWindowStack::Close(CHeadlessView& view) {
+    if (whileClosing) {
+        whileClosing();
+    }
     std::erase(m_windows, &view);
     if (m_panelView == &view) {
         m_panelView = nullptr;

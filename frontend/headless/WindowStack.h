@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 namespace headless {
@@ -12,6 +13,8 @@ public:
     void OpenPanel(CHeadlessView& view);
     void OpenDialog(CHeadlessView& view) { m_windows.push_back(&view); }
     void Close(CHeadlessView& view);
+    /// What a front end has to tell while a view ends.
+    std::function<void()> whileClosing;
 
     bool IsActive(const CHeadlessView& view) const;
     /// The panel's view; null when there is none (any more).

@@ -134,6 +134,23 @@ TEST_F(KRX8MaintenanceEndTest, UserWithinThePanelsEndReachesNobody) {
     ExpectNobodyReached();
 }
 
+TEST_F(KRX8MaintenanceEndTest, UserWithinTheViewsEndReachesNobody) {
+    StartPanel();
+    ConnectDevice(DeviceWithFailedTest());
+    desktop->traceLines.clear();
+    int ends = 0;
+    desktop->windows.whileClosing = [&] {
+        ++ends;
+        DoAllThatAUserCan(*panel);
+    };
+    TakeCalls();
+    panel->DestroyView();
+    desktop->windows.whileClosing = nullptr;
+    EXPECT_EQ(ends, 1);
+    EXPECT_THAT(TakeCalls(), IsEmpty());
+    ExpectNobodyReached();
+}
+
 TEST_F(KRX8MaintenanceEndTest, UserAfterTheViewsEndReachesNobody) {
     StartPanel();
     ConnectDevice(DeviceWithFailedTest());
