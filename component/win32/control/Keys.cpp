@@ -49,9 +49,10 @@ bool IsForView(HWND view, WPARAM key) {
     case VK_UP:
     case VK_RIGHT:
     case VK_DOWN:
-    case VK_RETURN:
     case VK_F1:
         return true;
+    case VK_RETURN:
+        return IsPushButton(GetFocus());
     default:
         return false;
     }
@@ -78,9 +79,9 @@ bool HandOn(HWND view, MSG& message) {
         DispatchMessageW(&message);
         return true;
     }
-    const HWND focused = GetFocus();
-    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && IsPushButton(focused)) {
+    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
         // The system knows of a default button only that was reached by Tab.
+        const HWND focused = GetFocus();
         SendMessageW(view, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(focused), BN_CLICKED),
                      reinterpret_cast<LPARAM>(focused));
         return true;

@@ -8,8 +8,8 @@
 namespace component {
 
 /// Whether a key message in the view is the view's own: Tab unless it would leave the view, arrow
-/// keys, Return, mnemonics that press a button, characters, and F1. The others are the container's
-/// to look at first.
+/// keys, Return on a button, mnemonics that press a button, characters, and F1. The others are the
+/// container's to look at first.
 bool IsForView(HWND view, const MSG& message);
 
 /// Carries such a message out; false where the view had no use for it after all.

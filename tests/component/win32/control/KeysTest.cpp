@@ -101,6 +101,15 @@ TEST_F(KeysTest, ReturnPressesTheFocusedButton) {
     EXPECT_EQ(host->viewControl->closeRequests, 1);
 }
 
+TEST_F(KeysTest, ReturnOutsideAButtonIsOfferedToTheSite) {
+    for (const int id : {panel::kFileList, panel::kStatusLog, panel::kHardwareField}) {
+        Focus(id);
+        MSG key{container.Button(id), WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+        EXPECT_EQ(Active()->TranslateAccelerator(&key), S_FALSE) << id;
+    }
+    EXPECT_EQ(Offered(), Keys(3, {WM_KEYDOWN, VK_RETURN, 0}));
+}
+
 TEST_F(KeysTest, SpacePressesTheFocusedButton) {
     Focus(panel::kCloseButton);
     container.Press(VK_SPACE);
