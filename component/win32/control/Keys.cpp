@@ -67,7 +67,7 @@ bool IsForView(HWND view, const MSG& message) {
     case WM_CHAR:
         return true;
     case WM_SYSCHAR:
-        return FindButton(view, KeyOf(message.wParam)) != nullptr;
+        return FindButton(view, message) != nullptr;
     default:
         return false;
     }
@@ -102,7 +102,10 @@ std::vector<ACCEL> Mnemonics() {
     return mnemonics;
 }
 
-HWND FindButton(HWND view, WPARAM key) {
+HWND FindButton(HWND view, const MSG& message) {
+    // A key of the number pad has the number of a small letter.
+    const bool isCharacter = message.message == WM_CHAR || message.message == WM_SYSCHAR;
+    const WPARAM key = isCharacter ? KeyOf(message.wParam) : message.wParam;
     for (const ACCEL& mnemonic : Mnemonics()) {
         const HWND button = GetDlgItem(view, mnemonic.cmd);
         if (mnemonic.key == key && IsWindowEnabled(button) && IsWindowVisible(button)) {

@@ -18,8 +18,8 @@ bool HandOn(HWND view, MSG& message);
 /// The mnemonics of the view's buttons, each with Alt, as a container wants to know them.
 std::vector<ACCEL> Mnemonics();
 
-/// The button that the mnemonic of that virtual-key code presses; null when there is none, or the
-/// user could not press it.
-HWND FindButton(HWND view, WPARAM key);
+/// The button whose mnemonic that key or character is; null when there is none, or the user could
+/// not press it, as in a view that is null.
+HWND FindButton(HWND view, const MSG& message);
 
 }

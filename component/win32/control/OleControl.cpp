@@ -31,7 +31,7 @@ HRESULT COleControl::OnMnemonic(MSG* message) {
     }
     return Enter([&] {
         const HWND view = m_activation.GetView();
-        if (const HWND button = view ? FindButton(view, message->wParam) : nullptr) {
+        if (const HWND button = view ? FindButton(view, *message) : nullptr) {
             SendMessageW(button, BM_CLICK, 0, 0);
         }
         return S_OK;

@@ -221,6 +221,21 @@ TEST_F(KeysTest, MnemonicFromTheContainerPressesTheButton) {
     EXPECT_EQ(host->viewControl->closeRequests, 1);
 }
 
+TEST_F(KeysTest, MnemonicFromTheContainerAsACharacterPressesTheButtonInEitherCase) {
+    for (const WPARAM letter : {'c', 'C'}) {
+        MSG key{window->Get(), WM_SYSCHAR, letter, 0, 0, {}};
+        EXPECT_EQ(container.As<IOleControl>()->OnMnemonic(&key), S_OK);
+    }
+    EXPECT_EQ(host->viewControl->closeRequests, 2);
+}
+
+TEST_F(KeysTest, KeyNumberedLikeASmallLetterIsNoMnemonic) {
+    static_assert(VK_NUMPAD3 == 'c');
+    MSG key{window->Get(), WM_SYSKEYDOWN, VK_NUMPAD3, 0, 0, {}};
+    EXPECT_EQ(container.As<IOleControl>()->OnMnemonic(&key), S_OK);
+    EXPECT_EQ(host->viewControl->closeRequests, 0);
+}
+
 TEST_F(KeysTest, MnemonicOfADisabledButtonDoesNothing) {
     host->RaiseState(5);
     MSG key{window->Get(), WM_SYSKEYDOWN, 'S', 0, 0, {}};
