@@ -60,6 +60,10 @@ bool IsForView(HWND view, WPARAM key) {
 
 }
 
+bool IsKeyMessage(const MSG& message) {
+    return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+}
+
 bool IsForView(HWND view, const MSG& message) {
     switch (message.message) {
     case WM_KEYDOWN:

@@ -7,6 +7,9 @@
 /// What keys do in the panel's view, which is a dialog without a message loop of its own.
 namespace component {
 
+/// Whether a message is that of a key, pressed, let go, or as a character.
+bool IsKeyMessage(const MSG& message);
+
 /// Whether a key message in the view is the view's own: Tab unless it would leave the view, arrow
 /// keys, Return on a button, mnemonics that press a button, characters, and F1. The others are the
 /// container's to look at first.

@@ -184,7 +184,9 @@ TEST_F(KeysTest, KeysOfOtherWindowsAreNotTheControls) {
 TEST_F(KeysTest, MessagesThatAreNoKeysAreNotTheControls) {
     Focus(panel::kFileList);
     MSG move{container.Button(panel::kFileList), WM_MOUSEMOVE, 0, 0, 0, {}};
+    container.Record().Answer("TranslateAccelerator", S_OK);
     EXPECT_EQ(Active()->TranslateAccelerator(&move), S_FALSE);
+    EXPECT_EQ(Offered(), Keys{});
 }
 
 TEST_F(KeysTest, InactiveControlTakesNoKeys) {
