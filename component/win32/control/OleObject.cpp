@@ -169,12 +169,13 @@ HRESULT COleObject::EnumAdvise(IEnumSTATDATA** sinks) {
         [&] { return m_site.Listeners() ? m_site.Listeners()->EnumAdvise(sinks) : E_OUTOFMEMORY; });
 }
 
+// As the system answers from the registry, where the other aspects have none.
 HRESULT COleObject::GetMiscStatus(DWORD aspect, DWORD* status) {
     if (!status) {
         return E_POINTER;
     }
     *status = aspect == DVASPECT_CONTENT ? panel::kMiscStatus : 0;
-    return aspect == DVASPECT_CONTENT ? S_OK : DV_E_DVASPECT;
+    return S_OK;
 }
 
 HRESULT COleObject::SetColorScheme(LOGPALETTE*) { return E_NOTIMPL; }
