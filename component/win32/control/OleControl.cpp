@@ -30,8 +30,12 @@ HRESULT COleControl::OnMnemonic(MSG* message) {
         return E_POINTER;
     }
     return Enter([&] {
-        const HWND view = m_activation.GetView();
-        if (const HWND button = view ? FindButton(view, *message) : nullptr) {
+        if (!FindButton(m_activation.GetView(), *message)) {
+            return S_OK;
+        }
+        // As with a click. The container may end the view inside.
+        static_cast<void>(m_activation.ActivateForUser());
+        if (const HWND button = FindButton(m_activation.GetView(), *message)) {
             SendMessageW(button, BM_CLICK, 0, 0);
         }
         return S_OK;
