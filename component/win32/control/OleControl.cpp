@@ -8,8 +8,11 @@ COleControl::~COleControl() { DestroyAcceleratorTable(m_mnemonics); }
 
 // The table belongs to the control; containers copy it.
 HRESULT COleControl::GetControlInfo(CONTROLINFO* info) {
-    if (!info || info->cb < sizeof *info) {
+    if (!info) {
         return E_POINTER;
+    }
+    if (info->cb < sizeof *info) {
+        return E_INVALIDARG;
     }
     return Enter([&]() -> HRESULT {
         std::vector<ACCEL> mnemonics = Mnemonics();
