@@ -93,9 +93,10 @@ HRESULT COleObject::DoVerb(LONG verb, MSG*, IOleClientSite* activeSite, LONG, HW
 }
 
 HRESULT COleObject::Hide() {
+    const bool wasShown = m_activation.GetWindow() != nullptr;
     m_activation.Deactivate();
     m_site.TellViewChanged();
-    if (m_site.Get()) {
+    if (wasShown && m_site.Get()) {
         m_site.Get()->OnShowWindow(FALSE);
     }
     return S_OK;
