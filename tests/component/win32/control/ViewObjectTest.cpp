@@ -78,6 +78,14 @@ TEST_F(ViewObjectTest, ListenerForOnceIsPrimedAndForgotten) {
     EXPECT_EQ(listener.Outstanding(), 0u);
 }
 
+TEST_F(ViewObjectTest, ListenerForOtherAspectsIsToldNothing) {
+    View()->SetAdvise(DVASPECT_ICON, ADVF_PRIMEFIRST | ADVF_ONLYONCE, &listener);
+    SIZEL extent{1000, 1000};
+    container.As<IOleObject>()->SetExtent(DVASPECT_CONTENT, &extent);
+    EXPECT_EQ(listener.calls, Calls{});
+    View()->SetAdvise(0, 0, nullptr);
+}
+
 TEST_F(ViewObjectTest, ListenerIsToldBack) {
     View()->SetAdvise(DVASPECT_CONTENT, ADVF_NODATA, &listener);
     DWORD aspects = 0;
