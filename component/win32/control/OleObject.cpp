@@ -3,21 +3,20 @@
 #include "component/win32/com/Identifiers.h"
 #include "panel/registration/ComponentIdentity.h"
 
-#include <cwchar>
+#include <algorithm>
+#include <string_view>
 
 namespace component {
 
 namespace {
 
-constexpr wchar_t kUserType[] = L"KRX8Maintenance Class";
-
-HRESULT CopyText(const wchar_t* text, LPOLESTR* copy) {
-    const std::size_t bytes = (std::wcslen(text) + 1) * sizeof(wchar_t);
-    *copy = static_cast<LPOLESTR>(CoTaskMemAlloc(bytes));
+// The text is plain ASCII.
+HRESULT CopyText(std::string_view text, LPOLESTR* copy) {
+    *copy = static_cast<LPOLESTR>(CoTaskMemAlloc((text.size() + 1) * sizeof(wchar_t)));
     if (!*copy) {
         return E_OUTOFMEMORY;
     }
-    std::wmemcpy(*copy, text, bytes / sizeof(wchar_t));
+    *std::copy(text.begin(), text.end(), *copy) = L'\0';
     return S_OK;
 }
 
@@ -116,7 +115,7 @@ HRESULT COleObject::GetUserClassID(CLSID* identifier) {
 }
 
 HRESULT COleObject::GetUserType(DWORD, LPOLESTR* name) {
-    return name ? CopyText(kUserType, name) : E_POINTER;
+    return name ? CopyText(panel::kUserType, name) : E_POINTER;
 }
 
 HRESULT COleObject::SetExtent(DWORD aspect, SIZEL* extent) {
