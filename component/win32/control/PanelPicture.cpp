@@ -151,7 +151,9 @@ class CBitmap {
 public:
     explicit CBitmap(panel::Size size) {
         m_info.bmiHeader = {
-            sizeof m_info.bmiHeader, size.width, size.height, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
+            sizeof m_info.bmiHeader, size.width, size.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        // It may be left out, but Wine 8 then takes a picture in a metafile for empty.
+        m_info.bmiHeader.biSizeImage = static_cast<DWORD>(size.width * size.height * 4);
         m_bitmap = CreateDIBSection(nullptr, &m_info, DIB_RGB_COLORS, &m_bits, nullptr, 0);
         m_before = SelectObject(m_context, m_bitmap);
     }

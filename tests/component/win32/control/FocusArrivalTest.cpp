@@ -58,8 +58,9 @@ TEST_F(FocusArrivalTest, FocusThatMovesInsideLeavesAUiInactiveControlSo) {
 
 TEST_F(FocusArrivalTest, MnemonicMakesItActiveForTheUserBeforeItPresses) {
     container.Record().Inside(
-        [&](const std::string&) { EXPECT_EQ(host->viewControl->closeRequests, 0); });
+        [&](const std::string& call) { EXPECT_EQ(host->viewControl->closeRequests, 0) << call; });
     EXPECT_EQ(SendMnemonic(), S_OK);
+    container.Record().Inside(nullptr);
     ExpectActiveForUser();
     EXPECT_EQ(host->viewControl->closeRequests, 1);
 }
