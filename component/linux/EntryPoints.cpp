@@ -1,41 +1,20 @@
 // What the library exports; see contract/panel/PanelFactory.h.
 
 #include "component/linux/CatalogueRegistrar.h"
+#include "component/linux/EntryCall.h"
 #include "component/linux/PanelFactory.h"
-#include "contract/ErrorInfo.h"
 #include "frontend/qt/ComponentFolder.h"
 #include "frontend/registry/FileRegistry.h"
 #include "panel/registration/ComponentIdentity.h"
 #include "panel/registration/RegistrationScript.h"
 
-#include <exception>
-#include <new>
-
 namespace component {
 
 namespace {
 
-using contract::Status;
-
-/// Out of memory (E_OUTOFMEMORY).
-constexpr Status kOutOfMemory = Status::FromBits(0x8007000E);
-
 CModuleUse& Module() {
     static CModuleUse module;
     return module;
-}
-
-// An exception that left the library would meet frames that do not expect it.
-template <class Operation>
-std::int32_t Guarded(Operation operation) noexcept {
-    try {
-        return operation().Code();
-    } catch (const std::bad_alloc&) {
-        return kOutOfMemory.Code();
-    } catch (const std::exception& exception) {
-        contract::SetErrorInfo(exception.what());
-        return contract::kUnspecifiedFailure.Code();
-    }
 }
 
 CCatalogueRegistrar MakeRegistrar() {

@@ -131,7 +131,11 @@ HWND CWin32Toolkit::FindOwner(panel::Owner owner) const {
     switch (owner) {
     case panel::Owner::Panel:
     case panel::Owner::PanelParent:
-        return GetAncestor(m_panelWindow, GA_ROOT);
+        // A host may keep a panel where nobody sees it.
+        if (const HWND root = GetAncestor(m_panelWindow, GA_ROOT); IsWindowVisible(root)) {
+            return root;
+        }
+        return GetActiveWindow();
     case panel::Owner::ActiveWindow:
         return GetActiveWindow();
     case panel::Owner::None:

@@ -56,7 +56,8 @@ public:
     void Trace(const std::string& line) override;
 
 private:
-    /// The top-level window, or null when there is none.
+    /// A top-level window, or null when there is none: for a panel that is not shown the one in
+    /// which the user works.
     HWND FindOwner(panel::Owner owner) const;
 
     const FocusRule m_mayTakeFocus;

@@ -5,6 +5,7 @@
 #include "contract/panel/ConnectionClient.h"
 #include "panel/control/Call.h"
 #include "panel/device/KVL32ExtConnectionEvents.h"
+#include "panel/device/ReentrantLock.h"
 
 #include <cstdint>
 #include <memory>
@@ -18,8 +19,8 @@ namespace panel {
 /// OnBeforeDetach(), OnConnectionEvent(status, state), OnDeviceConnected() and
 /// OnDeviceDisconnected().
 ///
-/// The lock guards the two references only. It is recursive because the connection is queried under
-/// it, and a host may call the panel back from there on the same thread.
+/// The lock guards the two references only. It may be taken again because the connection is queried
+/// under it, and a host may call the panel back from there on the same thread.
 template <class Derived>
 class IConnectionClientImpl2 : public virtual contract::IConnectionClient,
                                public IConnectionEventHandler {
@@ -115,7 +116,7 @@ private:
         }
     }
 
-    mutable std::recursive_mutex m_connectionLock;
+    mutable CReentrantLock m_connectionLock;
     std::shared_ptr<contract::IConnection> m_connection;
     std::shared_ptr<contract::IConnectionState> m_connectionState;
     std::shared_ptr<CKVL32ExtConnectionEvents> m_events;

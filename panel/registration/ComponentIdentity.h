@@ -19,6 +19,9 @@ inline constexpr std::uint16_t kTypeLibraryMinorVersion = 0;
 /// The program identifier, whatever the version.
 inline constexpr char kProgramIdentifier[] = "QRZ.KRX8Maintenance";
 
+/// The name of the class for users, as the registry says too.
+inline constexpr char kUserType[] = "KRX8Maintenance Class";
+
 /// How a container is to treat the control, as the registry says too (bits of OLEMISC in oleidl.h):
 /// recompose on resize, cannot be linked inside, inside out, activate when visible, set the client
 /// site first.

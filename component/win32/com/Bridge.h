@@ -75,20 +75,27 @@ public:
         m_exports.erase(ExportKey(object));
     }
 
-    /// The one `Kept` beside `object`: found again for as long as somebody holds it.
+    /// The one `Kept` beside `object`: found again for as long as somebody holds it, forgotten
+    /// then.
     template <class Kept>
     std::shared_ptr<Kept> KeepBeside(const void* object) {
-        std::weak_ptr<void>& place = m_kept[{object, typeid(Kept)}];
-        auto kept = std::static_pointer_cast<Kept>(place.lock());
-        if (!kept) {
-            kept = std::make_shared<Kept>();
-            place = kept;
+        const Key key{object, typeid(Kept)};
+        if (const auto found = m_kept.find(key); found != m_kept.end()) {
+            return std::static_pointer_cast<Kept>(found->second.lock());
         }
+        const std::shared_ptr<Kept> kept(new Kept(), [key, weak = weak_from_this()](Kept* ended) {
+            if (const auto self = weak.lock()) {
+                self->m_kept.erase(key);
+            }
+            delete ended;
+        });
+        m_kept[key] = kept;
         return kept;
     }
 
     std::size_t LiveImports() const { return m_imports.size(); }
     std::size_t LiveExports() const { return m_exports.size(); }
+    std::size_t LiveKept() const { return m_kept.size(); }
 
 private:
     struct Key {

@@ -125,6 +125,8 @@ HRESULT CActivation::MakeWindow(HWND parent) {
     const contract::Status status = m_panel.CreateView(m_window->Get());
     if (status.IsFailure()) {
         m_window.reset();
+    } else {
+        m_window->WatchView();
     }
     return status.Code();
 }

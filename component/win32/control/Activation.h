@@ -31,6 +31,8 @@ public:
     /// reached by then without the keyboard stays. E_UNEXPECTED, of which no site hears, for a
     /// control that cannot be activated again.
     HRESULT Activate(IOleClientSite* site, bool forUser);
+    /// Gives a control that is in its place the keyboard and the frame's menus; nothing for others.
+    HRESULT ActivateForUser();
     void DeactivateForUser();
     void Deactivate();
     /// Deactivates it for good.
@@ -52,7 +54,6 @@ private:
     HRESULT Enter(IOleClientSite& clientSite);
     HRESULT TakePlace(IOleInPlaceSite& site);
     HRESULT MakeWindow(HWND parent);
-    HRESULT ActivateForUser();
     HRESULT TakeFrames();
     void LeaveFrames();
 

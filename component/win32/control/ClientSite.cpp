@@ -60,7 +60,7 @@ void CClientSite::GetViewListener(DWORD* aspects, DWORD* flags, IAdviseSink** si
 
 void CClientSite::TellViewChanged() {
     const ComPtr<IAdviseSink> listener = m_viewListener;
-    if (!listener) {
+    if (!listener || !(m_viewAspects & DVASPECT_CONTENT)) {
         return;
     }
     if (m_viewFlags & ADVF_ONLYONCE) {

@@ -18,7 +18,7 @@ public:
     void TellSaved();
     void TellClosed();
 
-    /// Who is told when the control looks different.
+    /// Who is told when the control looks different, if it asks for the content.
     void SetViewListener(DWORD aspects, DWORD flags, IAdviseSink* sink);
     void GetViewListener(DWORD* aspects, DWORD* flags, IAdviseSink** sink) const;
     void TellViewChanged();

@@ -4,6 +4,8 @@
 #include "frontend/win32/Counted.h"
 #include "frontend/win32/Module.h"
 
+#include <commctrl.h>
+
 #include <utility>
 
 namespace component {
@@ -12,6 +14,25 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"KRX8Maintenance";
 constexpr UINT kEndMessage = WM_APP + 1;
+// A window in the view has got the focus, from the window of the first parameter.
+constexpr UINT kFocusMessage = WM_APP + 2;
+constexpr UINT_PTR kSubclass = 1;
+
+LRESULT CALLBACK TellFocus(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                           DWORD_PTR control) {
+    const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        RemoveWindowSubclass(window, TellFocus, kSubclass);
+    } else if (message == WM_SETFOCUS) {
+        SendMessageW(reinterpret_cast<HWND>(control), kFocusMessage, wParam, 0);
+    }
+    return result;
+}
+
+BOOL CALLBACK LetTellFocus(HWND window, LPARAM control) {
+    SetWindowSubclass(window, TellFocus, kSubclass, static_cast<DWORD_PTR>(control));
+    return TRUE;
+}
 
 }
 
@@ -37,6 +58,10 @@ public:
     }
 
     HWND Get() const { return m_window; }
+
+    bool Holds(HWND window) const {
+        return window && (window == m_window || IsChild(m_window, window));
+    }
 
     void LeaveOwner() {
         m_events = {};
@@ -88,6 +113,11 @@ private:
         case WM_SETFOCUS:
             SetFocus(GetWindow(window, GW_CHILD));
             Call(m_events.onActivated);
+            return 0;
+        case kFocusMessage:
+            if (!Holds(reinterpret_cast<HWND>(wParam))) {
+                Call(m_events.onActivated);
+            }
             return 0;
         case WM_PARENTNOTIFY:
             if (LOWORD(wParam) == WM_DESTROY && m_endsWithView) {
@@ -144,6 +174,11 @@ HWND CControlWindow::Get() const { return m_procedure->Get(); }
 
 HWND CControlWindow::GetView() const { return Get() ? GetWindow(Get(), GW_CHILD) : nullptr; }
 
+// The system tells a window around another nothing of the other's focus.
+void CControlWindow::WatchView() {
+    EnumChildWindows(Get(), LetTellFocus, reinterpret_cast<LPARAM>(Get()));
+}
+
 void CControlWindow::ShowIn(HWND parent) {
     if (GetAncestor(Get(), GA_PARENT) != parent) {
         SetParent(Get(), parent);
@@ -183,10 +218,7 @@ void CControlWindow::TakeFocus() {
     }
 }
 
-bool CControlWindow::HasFocus() const {
-    const HWND focused = GetFocus();
-    return focused && (focused == Get() || IsChild(Get(), focused));
-}
+bool CControlWindow::HasFocus() const { return m_procedure->Holds(GetFocus()); }
 
 void ForgetControlWindows() { UnregisterClassW(kClassName, win32::OwnModule()); }
 

@@ -15,7 +15,7 @@ class CControlWindow {
 public:
     struct Events {
         std::function<void(SIZE client)> onResized;
-        /// The user has clicked into it, or it has been given the focus.
+        /// The user has clicked into it, or the focus has come into it from outside.
         std::function<void()> onActivated;
     };
 
@@ -29,6 +29,8 @@ public:
     HWND Get() const;
     /// The panel's view in it; null when there is none.
     HWND GetView() const;
+    /// From now on the focus of the view's controls counts, not only that of this window.
+    void WatchView();
 
     void ShowIn(HWND parent);
     /// Hides it where no container sees it. The focus goes back to its parent first, inside which

@@ -63,7 +63,8 @@ HRESULT CInPlaceActiveObject::TranslateAccelerator(LPMSG message) {
     }
     return Enter([&]() -> HRESULT {
         const HWND view = m_activation.GetView();
-        if (!view || !m_activation.GetWindow() || !m_activation.HasFocus()) {
+        if (!IsKeyMessage(*message) || !view || !m_activation.GetWindow() ||
+            !m_activation.HasFocus()) {
             return S_FALSE;
         }
         if (IsForView(view, *message)) {

@@ -49,14 +49,19 @@ bool IsForView(HWND view, WPARAM key) {
     case VK_UP:
     case VK_RIGHT:
     case VK_DOWN:
-    case VK_RETURN:
     case VK_F1:
         return true;
+    case VK_RETURN:
+        return IsPushButton(GetFocus());
     default:
         return false;
     }
 }
 
+}
+
+bool IsKeyMessage(const MSG& message) {
+    return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
 }
 
 bool IsForView(HWND view, const MSG& message) {
@@ -66,7 +71,7 @@ bool IsForView(HWND view, const MSG& message) {
     case WM_CHAR:
         return true;
     case WM_SYSCHAR:
-        return FindButton(view, KeyOf(message.wParam)) != nullptr;
+        return FindButton(view, message) != nullptr;
     default:
         return false;
     }
@@ -78,9 +83,9 @@ bool HandOn(HWND view, MSG& message) {
         DispatchMessageW(&message);
         return true;
     }
-    const HWND focused = GetFocus();
-    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && IsPushButton(focused)) {
+    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
         // The system knows of a default button only that was reached by Tab.
+        const HWND focused = GetFocus();
         SendMessageW(view, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(focused), BN_CLICKED),
                      reinterpret_cast<LPARAM>(focused));
         return true;
@@ -101,7 +106,10 @@ std::vector<ACCEL> Mnemonics() {
     return mnemonics;
 }
 
-HWND FindButton(HWND view, WPARAM key) {
+HWND FindButton(HWND view, const MSG& message) {
+    // A key of the number pad has the number of a small letter.
+    const bool isCharacter = message.message == WM_CHAR || message.message == WM_SYSCHAR;
+    const WPARAM key = isCharacter ? KeyOf(message.wParam) : message.wParam;
     for (const ACCEL& mnemonic : Mnemonics()) {
         const HWND button = GetDlgItem(view, mnemonic.cmd);
         if (mnemonic.key == key && IsWindowEnabled(button) && IsWindowVisible(button)) {

@@ -8,8 +8,11 @@ COleControl::~COleControl() { DestroyAcceleratorTable(m_mnemonics); }
 
 // The table belongs to the control; containers copy it.
 HRESULT COleControl::GetControlInfo(CONTROLINFO* info) {
-    if (!info || info->cb < sizeof *info) {
+    if (!info) {
         return E_POINTER;
+    }
+    if (info->cb < sizeof *info) {
+        return E_INVALIDARG;
     }
     return Enter([&]() -> HRESULT {
         std::vector<ACCEL> mnemonics = Mnemonics();
@@ -30,8 +33,12 @@ HRESULT COleControl::OnMnemonic(MSG* message) {
         return E_POINTER;
     }
     return Enter([&] {
-        const HWND view = m_activation.GetView();
-        if (const HWND button = view ? FindButton(view, message->wParam) : nullptr) {
+        if (!FindButton(m_activation.GetView(), *message)) {
+            return S_OK;
+        }
+        // As with a click. The container may end the view inside.
+        static_cast<void>(m_activation.ActivateForUser());
+        if (const HWND button = FindButton(m_activation.GetView(), *message)) {
             SendMessageW(button, BM_CLICK, 0, 0);
         }
         return S_OK;

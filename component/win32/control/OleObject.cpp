@@ -3,21 +3,20 @@
 #include "component/win32/com/Identifiers.h"
 #include "panel/registration/ComponentIdentity.h"
 
-#include <cwchar>
+#include <algorithm>
+#include <string_view>
 
 namespace component {
 
 namespace {
 
-constexpr wchar_t kUserType[] = L"KRX8Maintenance Class";
-
-HRESULT CopyText(const wchar_t* text, LPOLESTR* copy) {
-    const std::size_t bytes = (std::wcslen(text) + 1) * sizeof(wchar_t);
-    *copy = static_cast<LPOLESTR>(CoTaskMemAlloc(bytes));
+// The text is plain ASCII.
+HRESULT CopyText(std::string_view text, LPOLESTR* copy) {
+    *copy = static_cast<LPOLESTR>(CoTaskMemAlloc((text.size() + 1) * sizeof(wchar_t)));
     if (!*copy) {
         return E_OUTOFMEMORY;
     }
-    std::wmemcpy(*copy, text, bytes / sizeof(wchar_t));
+    *std::copy(text.begin(), text.end(), *copy) = L'\0';
     return S_OK;
 }
 
@@ -93,9 +92,10 @@ HRESULT COleObject::DoVerb(LONG verb, MSG*, IOleClientSite* activeSite, LONG, HW
 }
 
 HRESULT COleObject::Hide() {
+    const bool wasShown = m_activation.GetWindow() != nullptr;
     m_activation.Deactivate();
     m_site.TellViewChanged();
-    if (m_site.Get()) {
+    if (wasShown && m_site.Get()) {
         m_site.Get()->OnShowWindow(FALSE);
     }
     return S_OK;
@@ -115,7 +115,7 @@ HRESULT COleObject::GetUserClassID(CLSID* identifier) {
 }
 
 HRESULT COleObject::GetUserType(DWORD, LPOLESTR* name) {
-    return name ? CopyText(kUserType, name) : E_POINTER;
+    return name ? CopyText(panel::kUserType, name) : E_POINTER;
 }
 
 HRESULT COleObject::SetExtent(DWORD aspect, SIZEL* extent) {
@@ -169,12 +169,13 @@ HRESULT COleObject::EnumAdvise(IEnumSTATDATA** sinks) {
         [&] { return m_site.Listeners() ? m_site.Listeners()->EnumAdvise(sinks) : E_OUTOFMEMORY; });
 }
 
+// As the system answers from the registry, where the other aspects have none.
 HRESULT COleObject::GetMiscStatus(DWORD aspect, DWORD* status) {
     if (!status) {
         return E_POINTER;
     }
     *status = aspect == DVASPECT_CONTENT ? panel::kMiscStatus : 0;
-    return aspect == DVASPECT_CONTENT ? S_OK : DV_E_DVASPECT;
+    return S_OK;
 }
 
 HRESULT COleObject::SetColorScheme(LOGPALETTE*) { return E_NOTIMPL; }

@@ -25,6 +25,7 @@ protected:
     ~BridgeFixture() override {
         EXPECT_EQ(m_bridge->LiveImports(), 0u);
         EXPECT_EQ(m_bridge->LiveExports(), 0u);
+        EXPECT_EQ(m_bridge->LiveKept(), 0u);
         EXPECT_EQ(m_bridge.use_count(), 1);
         EXPECT_FALSE(Module().IsInUse());
     }

@@ -125,7 +125,9 @@ TEST_F(BridgeTest, ObjectKeptBesideAnotherIsFoundWhileHeld) {
     auto kept = m_bridge->KeepBeside<std::string>(&place);
     *kept = "kept";
     EXPECT_EQ(m_bridge->KeepBeside<std::string>(&place), kept);
+    EXPECT_EQ(m_bridge->LiveKept(), 1u);
     kept = nullptr;
+    EXPECT_EQ(m_bridge->LiveKept(), 0u);
     EXPECT_EQ(*m_bridge->KeepBeside<std::string>(&place), "");
 }
 

@@ -103,6 +103,13 @@ TEST_F(ActivationTest, HideVerbDeactivatesAndTellsTheSite) {
     EXPECT_EQ(container.Window(), nullptr);
 }
 
+TEST_F(ActivationTest, HideVerbOfAControlThatIsNotShownTellsTheSiteNothing) {
+    Embed();
+    container.Record().TakeCalls();
+    EXPECT_EQ(container.DoVerb(OLEIVERB_HIDE), S_OK);
+    EXPECT_EQ(container.Record().TakeCalls(), Calls{});
+}
+
 TEST_F(ActivationTest, UnknownVerbsAreRefusedAndActivateNothing) {
     Embed();
     EXPECT_EQ(container.DoVerb(-100), E_NOTIMPL);

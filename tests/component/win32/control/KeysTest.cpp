@@ -101,6 +101,15 @@ TEST_F(KeysTest, ReturnPressesTheFocusedButton) {
     EXPECT_EQ(host->viewControl->closeRequests, 1);
 }
 
+TEST_F(KeysTest, ReturnOutsideAButtonIsOfferedToTheSite) {
+    for (const int id : {panel::kFileList, panel::kStatusLog, panel::kHardwareField}) {
+        Focus(id);
+        MSG key{container.Button(id), WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+        EXPECT_EQ(Active()->TranslateAccelerator(&key), S_FALSE) << id;
+    }
+    EXPECT_EQ(Offered(), Keys(3, {WM_KEYDOWN, VK_RETURN, 0}));
+}
+
 TEST_F(KeysTest, SpacePressesTheFocusedButton) {
     Focus(panel::kCloseButton);
     container.Press(VK_SPACE);
@@ -175,7 +184,9 @@ TEST_F(KeysTest, KeysOfOtherWindowsAreNotTheControls) {
 TEST_F(KeysTest, MessagesThatAreNoKeysAreNotTheControls) {
     Focus(panel::kFileList);
     MSG move{container.Button(panel::kFileList), WM_MOUSEMOVE, 0, 0, 0, {}};
+    container.Record().Answer("TranslateAccelerator", S_OK);
     EXPECT_EQ(Active()->TranslateAccelerator(&move), S_FALSE);
+    EXPECT_EQ(Offered(), Keys{});
 }
 
 TEST_F(KeysTest, InactiveControlTakesNoKeys) {
@@ -202,7 +213,7 @@ TEST_F(KeysTest, ControlInfoNamesTheMnemonicsOfTheButtons) {
 TEST_F(KeysTest, ControlInfoOfAnOlderSizeIsRefused) {
     CONTROLINFO info{};
     info.cb = sizeof info - 1;
-    EXPECT_EQ(container.As<IOleControl>()->GetControlInfo(&info), E_POINTER);
+    EXPECT_EQ(container.As<IOleControl>()->GetControlInfo(&info), E_INVALIDARG);
 }
 
 TEST_F(KeysTest, MnemonicFromTheContainerPressesTheButton) {
@@ -210,6 +221,21 @@ TEST_F(KeysTest, MnemonicFromTheContainerPressesTheButton) {
     MSG key{window->Get(), WM_SYSKEYDOWN, 'C', 0, 0, {}};
     EXPECT_EQ(container.As<IOleControl>()->OnMnemonic(&key), S_OK);
     EXPECT_EQ(host->viewControl->closeRequests, 1);
+}
+
+TEST_F(KeysTest, MnemonicFromTheContainerAsACharacterPressesTheButtonInEitherCase) {
+    for (const WPARAM letter : {'c', 'C'}) {
+        MSG key{window->Get(), WM_SYSCHAR, letter, 0, 0, {}};
+        EXPECT_EQ(container.As<IOleControl>()->OnMnemonic(&key), S_OK);
+    }
+    EXPECT_EQ(host->viewControl->closeRequests, 2);
+}
+
+TEST_F(KeysTest, KeyNumberedLikeASmallLetterIsNoMnemonic) {
+    static_assert(VK_NUMPAD3 == 'c');
+    MSG key{window->Get(), WM_SYSKEYDOWN, VK_NUMPAD3, 0, 0, {}};
+    EXPECT_EQ(container.As<IOleControl>()->OnMnemonic(&key), S_OK);
+    EXPECT_EQ(host->viewControl->closeRequests, 0);
 }
 
 TEST_F(KeysTest, MnemonicOfADisabledButtonDoesNothing) {

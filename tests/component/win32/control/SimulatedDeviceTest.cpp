@@ -233,6 +233,20 @@ TEST_F(UpdateOfferTest, AcceptedPackageIsInstalledAndNotOfferedAgain) {
     EXPECT_THAT(Log(), HasSubstr("Programming Device is: 005.002.000\r\n"));
 }
 
+TEST_F(UpdateOfferTest, OfferToADeactivatedControlKeepsTheUserOutOfTheHost) {
+    ExpectOffer(kNo);
+    StartWithSample("krx-8");
+    container.As<IOleInPlaceObject>()->InPlaceDeactivate();
+    bool isHostEnabled = true;
+    prompts.ExpectDialog([&](conformance::IViewUser& user) {
+        isHostEnabled = IsWindowEnabled(window->Get());
+        EXPECT_TRUE(user.Press(static_cast<panel::ControlId>(kNo)));
+    });
+    simulated.RaiseConnectionState(contract::kSuccess, 7);
+    EXPECT_FALSE(isHostEnabled);
+    EXPECT_TRUE(IsWindowEnabled(window->Get()));
+}
+
 TEST_F(UpdateOfferTest, RefusedPackageLeavesTheDevice) {
     ExpectOffer(kNo);
     StartWithSample("krx-20");
