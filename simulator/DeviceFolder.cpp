@@ -21,7 +21,7 @@ namespace {
 using Path = std::filesystem::path;
 
 /// A million files take some 150 MB.
-constexpr std::uintmax_t kLargestDescriptionBytes = 256u << 20;
+constexpr std::uintmax_t kLargestDescriptionBytes = 256U << 20;
 
 std::string LastSystemError() { return MessageOf({errno, std::generic_category()}); }
 

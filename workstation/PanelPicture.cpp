@@ -14,7 +14,6 @@ namespace workstation {
 namespace {
 
 using headless::PictureColumn;
-using headless::PictureField;
 
 template <class Widget>
 QList<Widget*> ShownChildren(const QWidget& holder) {

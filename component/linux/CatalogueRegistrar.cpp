@@ -42,7 +42,7 @@ Status FromErrorNumber(int error) {
     if (reason != std::end(kReasons)) {
         contract::SetErrorInfo(reason->text);
     }
-    return Status::FromBits(0x80070000u | static_cast<std::uint32_t>(error));
+    return Status::FromBits(0x80070000U | static_cast<std::uint32_t>(error));
 }
 
 void RemoveKey(Settings& settings, const std::string& key) {

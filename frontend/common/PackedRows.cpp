@@ -9,7 +9,7 @@ namespace common {
 
 namespace {
 
-constexpr std::size_t kCompactFrom = 64 * 1024;
+constexpr std::size_t kCompactFrom = 64U << 10;
 
 }
 

@@ -6,7 +6,7 @@
 namespace common {
 
 namespace {
-constexpr std::size_t kChunkBytes = 64 * 1024;
+constexpr std::size_t kChunkBytes = 64U << 10;
 }
 
 void CTextArena::Clear() {

@@ -136,7 +136,7 @@ void CHeadlessList::RightClick(int row) {
 }
 
 void CHeadlessList::PressKey(std::uint16_t virtualKey) {
-    const auto step = std::ranges::find(kKeySteps, virtualKey, &KeyStep::virtualKey);
+    const auto* const step = std::ranges::find(kKeySteps, virtualKey, &KeyStep::virtualKey);
     if (step == std::end(kKeySteps) || m_rows.Count() == 0) {
         return;
     }

@@ -12,6 +12,8 @@ public:
         : m_registry(registry), m_path(std::move(path)) {
         ++m_registry.openKeys;
     }
+    CMemoryRegistryKey(const CMemoryRegistryKey&) = delete;
+    CMemoryRegistryKey& operator=(const CMemoryRegistryKey&) = delete;
     ~CMemoryRegistryKey() override { --m_registry.openKeys; }
 
     int ReadValue(const std::string& name, std::size_t capacity, std::string& bytes) override {

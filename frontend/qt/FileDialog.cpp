@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QTreeView>
 
+#include <utility>
+
 namespace qt {
 
 namespace {
@@ -41,8 +43,8 @@ QString FindStartFolder(const QString& wanted) {
 
 }
 
-CFileDialog::CFileDialog(const panel::FileDialog& dialog, Kind kind, QWidget* owner)
-    : QFileDialog(owner), m_dialog(dialog), m_kind(kind) {
+CFileDialog::CFileDialog(panel::FileDialog dialog, Kind kind, QWidget* owner)
+    : QFileDialog(owner), m_dialog(std::move(dialog)), m_kind(kind) {
     setObjectName(QStringLiteral("file-dialog"));
     SetUp();
     if (m_dialog.optionsTemplate) {
@@ -215,7 +217,7 @@ panel::FileOutcome RunFileDialog(const panel::FileDialog& dialog, CFileDialog::K
                                  QWidget* owner) {
     const CArrowCursor arrow;
     const QPointer<CFileDialog> window(new CFileDialog(dialog, kind, owner));
-    const panel::FileOutcome outcome = window->Run();
+    panel::FileOutcome outcome = window->Run();
     delete window;
     return outcome;
 }

@@ -18,7 +18,7 @@ public:
     enum class Kind { Open, Save };
 
     /// `owner` null: of no window. `dialog` is copied, its options' handler outlives this.
-    CFileDialog(const panel::FileDialog& dialog, Kind kind, QWidget* owner);
+    CFileDialog(panel::FileDialog dialog, Kind kind, QWidget* owner);
 
     /// Calls the options' OnInit, shows the dialog and waits until it ends. It may have been
     /// destroyed with its owner by then; that counts as cancelled.

@@ -14,8 +14,8 @@ namespace {
 using namespace fuzz;
 
 /// What texts are stretched to: about the panel's limits and far beyond; 0: not at all.
-constexpr std::size_t kSizes[] = {0,   19,  20,  40,  79,  80,  81,        110,
-                                  111, 199, 256, 257, 260, 300, 64 * 1024, 1024 * 1024};
+constexpr std::size_t kSizes[] = {0,   19,  20,  40,  79,  80,  81,       110,
+                                  111, 199, 256, 257, 260, 300, 64 << 10, 1 << 20};
 
 std::string Stretched(std::string_view text, std::size_t size) {
     std::string stretched(text);

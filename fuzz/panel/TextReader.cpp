@@ -126,7 +126,7 @@ void CTextReader::ReadMessages() {
         RequireEqual(Log().back(), LongestBeginning(m_texts.other, kLongestLine),
                      "a message is cut to a line");
     }
-    for (const std::uint32_t total : {0u, 3u}) {
+    for (const std::uint32_t total : {0U, 3U}) {
         m_device->RaiseMessage(m_texts.other, 1, total);
         m_device->RaiseMessage(m_texts.name, 2, total);
         m_device->RaiseMessage(m_texts.name, 2, total);

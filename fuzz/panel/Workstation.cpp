@@ -26,7 +26,7 @@ public:
               "new_mcu.fia", "any.bin", "image.krx10", "image.krx20", "empty.fia", "none.bin"}) {
             paths.push_back(m_folder.PathOf(name));
         }
-        paths.push_back("");
+        paths.emplace_back();
         paths.push_back("/" + std::string(300, 'n'));
         package = m_folder.Path().string();
     }

@@ -7,7 +7,7 @@ namespace fuzz {
 
 /// The key of the update settings.
 inline constexpr const char* kSettingsKey =
-    "SOFTWARE\\Vantor Mobile Phones\\WstShared\\Common\\FlashUpdate";
+    R"(SOFTWARE\Vantor Mobile Phones\WstShared\Common\FlashUpdate)";
 
 /// The folder of an update package in version 3.0.1, good for the KRX-8 family and in part for the
 /// other models. Made at first use, removed at the end of the process.

@@ -27,14 +27,14 @@ std::optional<char32_t> TakeCharacter(std::string_view& text) {
     if (ones == 1 || ones > 4 || text.size() < length) {
         return std::nullopt;
     }
-    char32_t character = lead & (0xFFu >> (ones + 1));
+    char32_t character = lead & (0xFFU >> (ones + 1));
     character = ones == 0 ? lead : character;
     for (const char next : text.substr(1, length - 1)) {
         const auto byte = static_cast<unsigned char>(next);
         if (std::countl_one(byte) != 1) {
             return std::nullopt;
         }
-        character = character << 6 | (byte & 0x3Fu);
+        character = character << 6 | (byte & 0x3FU);
     }
     const bool isSurrogate = character >= kFirstSurrogate && character <= kLastSurrogate;
     if (isSurrogate || character > kLast || BytesOf(character) != length) {

@@ -8,7 +8,7 @@ constexpr std::size_t kLongestExtension = 3;
 
 std::string TakePart(std::string_view& text) {
     const std::size_t end = text.find('|');
-    const std::string part(text.substr(0, end));
+    std::string part(text.substr(0, end));
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     return part;
 }

@@ -34,9 +34,9 @@ std::uint32_t Percent(std::uint32_t done, std::uint32_t total) {
 std::string WithOneDecimal(double number) {
     // A sign, the ten digits of a 32-bit number times 100, the point and one digit more.
     std::array<char, 24> buffer;
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                   std::chars_format::fixed, 1)
-                         .ptr;
+    char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                    std::chars_format::fixed, 1)
+                          .ptr;
     return {buffer.data(), end};
 }
 

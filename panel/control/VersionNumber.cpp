@@ -3,6 +3,7 @@
 #include "panel/control/Format.h"
 
 #include <algorithm>
+#include <compare>
 #include <limits>
 
 namespace panel {
@@ -52,7 +53,7 @@ int CompareVersions(std::string_view a, std::string_view b) {
     const VersionNumber right = ParseVersion(b);
     const auto order = std::lexicographical_compare_three_way(left.begin(), left.end(),
                                                               right.begin(), right.end());
-    return order < 0 ? -1 : order > 0 ? 1 : 0;
+    return std::is_lt(order) ? -1 : std::is_gt(order) ? 1 : 0;
 }
 
 std::string FormatVersion(const VersionNumber& version, std::size_t size) {

@@ -30,7 +30,7 @@ constexpr Point kListCorner{2, 3};
 Status FromSystemError(int error) {
     return error == 0
                ? contract::kSuccess
-               : Status::FromBits(0x80070000u | (static_cast<std::uint32_t>(error) & 0xFFFF));
+               : Status::FromBits(0x80070000U | (static_cast<std::uint32_t>(error) & 0xFFFF));
 }
 
 bool ConcernsSelection(FileContextMenuCommand command) {

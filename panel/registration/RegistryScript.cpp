@@ -41,6 +41,7 @@ private:
         if (!m_word || Is("{") || Is("}") || Is("=")) {
             return false;
         }
+        // NOLINTNEXTLINE(clang-analyzer-cplusplus.Move): each word is another one
         name = std::move(m_word->text);
         Advance();
         return true;

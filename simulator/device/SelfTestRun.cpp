@@ -11,7 +11,7 @@ namespace {
 
 using contract::SelfTest;
 
-constexpr std::uint32_t BitOf(SelfTest test) { return 1u << (static_cast<std::int32_t>(test) - 1); }
+constexpr std::uint32_t BitOf(SelfTest test) { return 1U << (static_cast<std::int32_t>(test) - 1); }
 static_assert(BitOf(kInternalFlashMediumTest) == contract::kInternalFlashTest);
 static_assert(BitOf(kPcCardMediumTest) == contract::kPcCardTest);
 

@@ -24,7 +24,7 @@ using Path = std::filesystem::path;
 using Kind = UpdateEntry::Kind;
 
 /// More is no description, and need not be read to be refused.
-constexpr std::size_t kLargestFile = 1024 * 1024;
+constexpr std::size_t kLargestFile = 1U << 20;
 
 constexpr std::pair<std::string_view, Kind> kKinds[] = {{"file", Kind::PhoneFile},
                                                         {"fpga", Kind::Fpga},

@@ -22,7 +22,7 @@ constexpr std::pair<unsigned, std::string_view> kShortEscapes[] = {
 /// The control character or separator at the front of `text`, which is not empty.
 std::optional<Control> ControlAtFront(std::string_view text) {
     const auto byte = [&](std::size_t index) {
-        return index < text.size() ? static_cast<unsigned char>(text[index]) : 0u;
+        return index < text.size() ? static_cast<unsigned char>(text[index]) : 0U;
     };
     if (byte(0) < 0x20 || byte(0) == 0x7F) {
         return Control{byte(0), 1};

@@ -62,7 +62,7 @@ std::size_t CharactersOf(std::string_view text) {
     for (const auto part : text) {
         const auto byte = static_cast<unsigned char>(part);
         const bool isFirst = (byte & 0xC0) != 0x80;
-        characters += (isFirst ? 1u : 0u) + (byte >= 0xF0 ? 1u : 0u);
+        characters += (isFirst ? 1U : 0U) + (byte >= 0xF0 ? 1U : 0U);
     }
     return characters;
 }

@@ -16,7 +16,7 @@ std::shared_ptr<CKnobs> CKnobs::Create(const std::shared_ptr<CDevice>& device,
         description.latency.operationsMs.empty()) {
         return nullptr;
     }
-    const auto knobs = std::make_shared<CKnobs>(device, slot, connection, std::move(sleep));
+    auto knobs = std::make_shared<CKnobs>(device, slot, connection, std::move(sleep));
     if (description.loss) {
         knobs->AddLoss(*description.loss);
     }

@@ -134,8 +134,8 @@ void TryWriting(const CScratch& scratch, const std::string& path, panel::IRegist
     Settings expected = scratch.Content();
     expected[path]["written"] = "\xC3\xA9\n\\";
     Require(key.WriteText("written", "\xC3\xA9\n\\") == panel::kRegistrySuccess, "a text is taken");
-    expected[path][""] = 4294967295u;
-    Require(key.WriteNumber("", 4294967295u) == panel::kRegistrySuccess, "a number is taken");
+    expected[path][""] = 4294967295U;
+    Require(key.WriteNumber("", 4294967295U) == panel::kRegistrySuccess, "a number is taken");
     Require(scratch.Content() == expected, "nothing but what is written changes");
     const std::string before = scratch.Text();
     Require(key.WriteText("\xC3", "") == registry::kNoUnicode, "a name is UTF-8");
