@@ -11,7 +11,6 @@
 #include <limits>
 #include <map>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
