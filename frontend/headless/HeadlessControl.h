@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frontend/headless/HeadlessList.h"
+#include "panel/control/ControlKinds.h"
 #include "panel/control/DialogTemplate.h"
 #include "panel/control/View.h"
 
@@ -29,7 +30,7 @@ struct HeadlessControl {
     bool IsDropDownList() const { return kind == panel::ControlKind::DropDownList; }
     bool IsAddressField() const { return kind == panel::ControlKind::AddressField; }
     bool IsLog() const { return kind == panel::ControlKind::Log; }
-    bool CanHaveFocus() const;
+    bool CanHaveFocus() const { return panel::CanHaveFocus(kind); }
     /// Whether its text is the program's to set.
     bool HasText() const;
     /// Whether a user can do anything with it.
