@@ -12,4 +12,22 @@ constexpr bool CanHaveFocus(ControlKind kind) {
            kind != ControlKind::ProgressBar;
 }
 
+/// Whether a control of that kind shows one text, as IView::SetText sets it.
+constexpr bool ShowsText(ControlKind kind) {
+    switch (kind) {
+    case ControlKind::GroupBox:
+    case ControlKind::Label:
+    case ControlKind::CentredLabel:
+    case ControlKind::TextField:
+    case ControlKind::NumberField:
+    case ControlKind::EditField:
+    case ControlKind::CheckBox:
+    case ControlKind::Button:
+    case ControlKind::DefaultButton:
+        return true;
+    default:
+        return false;
+    }
+}
+
 }
