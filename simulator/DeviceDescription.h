@@ -49,6 +49,9 @@ inline constexpr std::int32_t kTestMediaNotFound = 812;
 /// The file whose version is that of the software package on the device.
 inline constexpr const char* kVersionFileName = "version.fia";
 
+/// The part of a file's identifier that addresses it, together with its type: the low 16 bits.
+constexpr std::int32_t AddressingPart(std::int32_t id) { return id & 0xFFFF; }
+
 /// One file on the device.
 struct StoredFile {
     std::string name;

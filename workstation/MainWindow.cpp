@@ -21,7 +21,6 @@ namespace workstation {
 
 namespace {
 
-constexpr char kTitle[] = "KRX-8 Maintenance Workstation";
 // A window that starts minimised, for one, is never painted.
 constexpr std::chrono::milliseconds kLongestUnpainted{250};
 constexpr std::string_view kSwitchPolling = "ProductDetectionControl.SetPollingEnabled";
@@ -35,7 +34,7 @@ CMainWindow::CMainWindow(std::shared_ptr<contract::IPanel> panel, std::filesyste
       m_status(*new CStatusLine(this)),
       m_panelHost(
           std::make_unique<CPanelHost>(std::move(panel), static_cast<IPanelHostObserver&>(*this))) {
-    setWindowTitle(kTitle);
+    setWindowTitle(kWorkstationTitle);
     BuildLayout();
     m_panelHost->CreateView(m_area.Holder());
     const contract::PixelSize natural = m_panelHost->GetNaturalSize();
@@ -108,7 +107,8 @@ void CMainWindow::ConnectionChanged() {
     const QString name = folder.empty() ? QString() : NameOf(folder);
     m_status.ShowDevice(name, m_panelHost->IsConnected());
     m_devices.Mark(folder, !m_panelHost->IsConnected());
-    setWindowTitle(name.isEmpty() ? QString(kTitle) : QString(kTitle) + " - " + name);
+    setWindowTitle(name.isEmpty() ? QString(kWorkstationTitle)
+                                  : QString(kWorkstationTitle) + " - " + name);
 }
 
 void CMainWindow::ProgressReported(const std::string& text, std::uint32_t done,

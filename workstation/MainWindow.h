@@ -21,6 +21,9 @@ class CDevicePane;
 class CPanelArea;
 class CStatusLine;
 
+/// What the program calls itself; followed by the device in the title of its window.
+inline constexpr char kWorkstationTitle[] = "KRX-8 Maintenance Workstation";
+
 /// A device that has been opened.
 struct OpenedDevice {
     std::filesystem::path folder;

@@ -9,6 +9,7 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <iterator>
 
@@ -57,11 +58,10 @@ constexpr Answer kAnswers[] = {
     {QMessageBox::No, 7},
 };
 
-template <class Entry, class Key>
-const Entry* Find(const Entry* begin, const Entry* end, Key Entry::*member, Key key) {
-    const Entry* const found =
-        std::find_if(begin, end, [&](const Entry& entry) { return entry.*member == key; });
-    return found == end ? nullptr : found;
+template <class Entry, std::size_t N, class Key>
+const Entry* Find(const Entry (&table)[N], Key Entry::*member, Key key) {
+    const Entry* const found = std::ranges::find(table, key, member);
+    return found == std::end(table) ? nullptr : found;
 }
 
 QString ToLines(const std::string& text) {
@@ -86,8 +86,7 @@ void Fill(QMessageBox& box, const contract::Message& message, const ButtonSet& s
     box.setTextFormat(Qt::PlainText);
     box.setText(ToLines(message.text));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    if (const Icon* const icon =
-            Find(std::begin(kIcons), std::end(kIcons), &Icon::style, message.style & kIconBits)) {
+    if (const Icon* const icon = Find(kIcons, &Icon::style, message.style & kIconBits)) {
         box.setIcon(icon->icon);
     }
     if (message.status != contract::kSuccess) {
@@ -105,8 +104,7 @@ void Fill(QMessageBox& box, const contract::Message& message, const ButtonSet& s
 
 contract::Status CMessageService::ShowMessage(const contract::Message& message,
                                               std::int32_t& button) {
-    const ButtonSet* const set = Find(std::begin(kButtonSets), std::end(kButtonSets),
-                                      &ButtonSet::style, message.style & kButtonBits);
+    const ButtonSet* const set = Find(kButtonSets, &ButtonSet::style, message.style & kButtonBits);
     if (!set) {
         return contract::kUnspecifiedFailure;
     }
@@ -117,11 +115,8 @@ contract::Status CMessageService::ShowMessage(const contract::Message& message,
     const qt::CArrowCursor arrow;
     const auto pressed = static_cast<QMessageBox::StandardButton>(box->exec());
     delete box;
-    const Answer* const answer =
-        Find(std::begin(kAnswers), std::end(kAnswers), &Answer::button, pressed);
-    button = (answer ? answer
-                     : Find(std::begin(kAnswers), std::end(kAnswers), &Answer::button, set->escape))
-                 ->number;
+    const Answer* const answer = Find(kAnswers, &Answer::button, pressed);
+    button = (answer ? answer : Find(kAnswers, &Answer::button, set->escape))->number;
     return contract::kSuccess;
 }
 

@@ -152,7 +152,7 @@ struct Start {
 
 // Somebody who has started the program from a desktop sees no line on stderr.
 void TellInABox(const char* problem) {
-    QMessageBox box(QMessageBox::Critical, QStringLiteral("KRX-8 Maintenance Workstation"), {});
+    QMessageBox box(QMessageBox::Critical, kWorkstationTitle, {});
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromUtf8(problem));
     box.exec();

@@ -3,7 +3,7 @@
 #include "workstation/Text.h"
 
 #include <QAbstractButton>
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QLabel>

@@ -48,16 +48,6 @@ HeadlessControl::HeadlessControl(const panel::ControlTemplate& controlTemplate,
 
 bool HeadlessControl::IsButton() const { return kind == Button || kind == DefaultButton; }
 
-bool HeadlessControl::CanHaveFocus() const {
-    return IsButton() || IsLog() || list || kind == TextField || kind == NumberField ||
-           kind == EditField || IsAddressField() || IsCheckBox() || IsDropDownList();
-}
-
-bool HeadlessControl::HasText() const {
-    return !IsLog() && !list && !IsAddressField() && !IsDropDownList() && kind != Icon &&
-           kind != ProgressBar;
-}
-
 void HeadlessControl::Move(const panel::Rectangle& target) {
     rectangle = target;
     ++frameComputations;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frontend/headless/HeadlessList.h"
+#include "panel/control/ControlKinds.h"
 #include "panel/control/DialogTemplate.h"
 #include "panel/control/View.h"
 
@@ -9,7 +10,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace headless {
@@ -27,12 +27,10 @@ struct HeadlessControl {
 
     bool IsButton() const;
     bool IsCheckBox() const { return kind == panel::ControlKind::CheckBox; }
-    bool IsDropDownList() const { return kind == panel::ControlKind::DropDownList; }
-    bool IsAddressField() const { return kind == panel::ControlKind::AddressField; }
     bool IsLog() const { return kind == panel::ControlKind::Log; }
-    bool CanHaveFocus() const;
+    bool CanHaveFocus() const { return panel::CanHaveFocus(kind); }
     /// Whether its text is the program's to set.
-    bool HasText() const;
+    bool HasText() const { return panel::ShowsText(kind); }
     /// Whether a user can do anything with it.
     bool IsUsable() const { return isEnabled && isVisible; }
 

@@ -9,8 +9,8 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
+#include <string_view>
 
 namespace headless {
 

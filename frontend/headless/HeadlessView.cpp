@@ -196,6 +196,19 @@ void CHeadlessView::EnsureRowVisible(ControlId list, int row) {
     }
 }
 
+std::optional<panel::Point> CHeadlessView::GetRowPosition(ControlId list, int row) const {
+    const CHeadlessList* rows = FindList(list);
+    if (!rows || !rows->HasRow(row)) {
+        return std::nullopt;
+    }
+    return Find(list)->RowPosition(row);
+}
+
+panel::Size CHeadlessView::GetListClientSize(ControlId list) const {
+    const panel::Rectangle place = FindList(list) ? Find(list)->rectangle : panel::Rectangle{};
+    return {place.width, place.height};
+}
+
 void CHeadlessView::SetTextLimit(ControlId id, std::size_t characters) {
     if (HeadlessControl* control = Find(id)) {
         control->textLimit = characters;

@@ -77,17 +77,4 @@ int CHeadlessView::SetIcon(ControlId id, panel::StandardIcon icon) {
     return m_iconError;
 }
 
-std::optional<panel::Point> CHeadlessView::GetRowPosition(ControlId list, int row) const {
-    const CHeadlessList* rows = FindList(list);
-    if (!rows || !rows->HasRow(row)) {
-        return std::nullopt;
-    }
-    return Find(list)->RowPosition(row);
-}
-
-panel::Size CHeadlessView::GetListClientSize(ControlId list) const {
-    const panel::Rectangle place = FindList(list) ? Find(list)->rectangle : panel::Rectangle{};
-    return {place.width, place.height};
-}
-
 }

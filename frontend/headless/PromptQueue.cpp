@@ -1,6 +1,7 @@
 #include "frontend/headless/PromptQueue.h"
 
 #include "frontend/headless/HeadlessView.h"
+#include "panel/control/DialogHandler.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,10 +10,11 @@ namespace headless {
 
 namespace {
 
+using panel::kNoButton;
+using panel::kOkButton;
+using panel::kYesButton;
+
 constexpr std::int32_t kEscape = 0; // no button at all
-constexpr std::int32_t kOk = 1;
-constexpr std::int32_t kYes = 6;
-constexpr std::int32_t kNo = 7;
 
 // The bits of a box's style that choose its buttons, and the choice of Yes and No (winuser.h).
 constexpr std::uint32_t kButtonsMask = 0xF;
@@ -24,10 +26,12 @@ constexpr bool CanAnswer(std::uint32_t style, std::int32_t button) {
     if (button == kEscape) {
         return true;
     }
-    return IsQuestion(style) ? button == kYes || button == kNo : button == kOk;
+    return IsQuestion(style) ? button == kYesButton || button == kNoButton : button == kOkButton;
 }
 
-constexpr std::int32_t EscapeAnswer(std::uint32_t style) { return IsQuestion(style) ? kNo : kOk; }
+constexpr std::int32_t EscapeAnswer(std::uint32_t style) {
+    return IsQuestion(style) ? kNoButton : kOkButton;
+}
 
 }
 

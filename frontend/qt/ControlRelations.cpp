@@ -2,6 +2,7 @@
 
 #include "frontend/qt/AddressField.h"
 #include "frontend/qt/Text.h"
+#include "panel/control/ControlKinds.h"
 
 #include <QLabel>
 #include <QWidget>
@@ -46,25 +47,16 @@ void Stack(const Controls& controls) {
     }
 }
 
-bool TakesFocus(ControlKind kind) {
-    switch (kind) {
-    case ControlKind::TextField:
-    case ControlKind::NumberField:
-    case ControlKind::EditField:
-    case ControlKind::AddressField:
-    case ControlKind::DropDownList:
-    case ControlKind::MultiSelectList:
-    case ControlKind::SingleSelectList:
-    case ControlKind::Log:
-        return true;
-    default:
-        return false;
-    }
+// Whether the user can go to a control that does not itself say what it is called.
+bool NeedsName(ControlKind kind) {
+    const bool hasCaption = kind == ControlKind::CheckBox || kind == ControlKind::Button ||
+                            kind == ControlKind::DefaultButton;
+    return panel::CanHaveFocus(kind) && !hasCaption;
 }
 
 void JoinBuddies(const Controls& controls) {
     for (std::size_t i = 1; i < controls.size(); ++i) {
-        if (controls[i - 1].kind == ControlKind::Label && TakesFocus(controls[i].kind)) {
+        if (controls[i - 1].kind == ControlKind::Label && NeedsName(controls[i].kind)) {
             static_cast<QLabel*>(controls[i - 1].widget)->setBuddy(controls[i].widget);
         }
     }
@@ -75,7 +67,7 @@ void NameForAccessibility(const panel::DialogTemplate& dialogTemplate, const Con
     for (std::size_t i = 0; i < controls.size(); ++i) {
         if (controls[i].kind == ControlKind::GroupBox) {
             title = ToQt(dialogTemplate.controls[i].text);
-        } else if (TakesFocus(controls[i].kind)) {
+        } else if (NeedsName(controls[i].kind)) {
             const bool hasLabel = i > 0 && controls[i - 1].kind == ControlKind::Label;
             controls[i].widget->setAccessibleName(hasLabel ? QString() : title);
             if (auto* const field = dynamic_cast<CAddressField*>(controls[i].widget)) {

@@ -77,23 +77,6 @@ void SetText(QWidget& widget, ControlKind kind, const QString& text) {
 
 }
 
-bool HasText(ControlKind kind) {
-    switch (kind) {
-    case ControlKind::GroupBox:
-    case ControlKind::Label:
-    case ControlKind::CentredLabel:
-    case ControlKind::TextField:
-    case ControlKind::NumberField:
-    case ControlKind::EditField:
-    case ControlKind::CheckBox:
-    case ControlKind::Button:
-    case ControlKind::DefaultButton:
-        return true;
-    default:
-        return false;
-    }
-}
-
 void ShowText(QWidget& widget, ControlKind kind, const QString& text) {
     SetText(widget, kind, text);
     FitText(widget, kind, text);

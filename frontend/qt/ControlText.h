@@ -7,9 +7,6 @@ class QWidget;
 
 namespace qt {
 
-/// Whether a control of that kind shows one text, as IView::SetText sets it.
-bool HasText(panel::ControlKind kind);
-
 /// Shows `text` in the widget of a control as it is, marking no mnemonic.
 void ShowText(QWidget& widget, panel::ControlKind kind, const QString& text);
 

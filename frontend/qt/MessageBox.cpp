@@ -2,6 +2,7 @@
 
 #include "frontend/qt/ArrowCursor.h"
 #include "frontend/qt/Text.h"
+#include "panel/control/DialogHandler.h"
 
 #include <QMessageBox>
 
@@ -9,13 +10,10 @@ namespace qt {
 
 namespace {
 
-// Bits of the style and buttons as numbered by the MessageBox function (winuser.h).
+// Bits of the style as numbered by the MessageBox function (winuser.h).
 constexpr std::uint32_t kButtonBits = 0x0F;
 constexpr std::uint32_t kIconBits = 0xF0;
 constexpr std::uint32_t kYesNo = 0x04;
-constexpr std::int32_t kOkPressed = 1;
-constexpr std::int32_t kYesPressed = 6;
-constexpr std::int32_t kNoPressed = 7;
 
 QMessageBox::Icon IconOf(std::uint32_t style) {
     switch (style & kIconBits) {
@@ -55,9 +53,9 @@ std::int32_t ShowMessageBox(const std::string& text, const std::string& caption,
     const CArrowCursor arrow;
     const int pressed = box.exec();
     if (!isQuestion) {
-        return kOkPressed;
+        return panel::kOkButton;
     }
-    return pressed == QMessageBox::Yes ? kYesPressed : kNoPressed;
+    return pressed == QMessageBox::Yes ? panel::kYesButton : panel::kNoButton;
 }
 
 }

@@ -12,6 +12,7 @@
 #include "frontend/qt/LogView.h"
 #include "frontend/qt/Text.h"
 #include "frontend/qt/ViewWidget.h"
+#include "panel/control/ControlKinds.h"
 
 #include <QProgressBar>
 
@@ -89,7 +90,7 @@ ControlId CQtView::Capture(ControlId id) { return Find(id) ? id : panel::kNoCont
 
 void CQtView::SetText(ControlId id, std::string_view text) {
     Control* const control = Find(id);
-    if (control && HasText(control->kind)) {
+    if (control && panel::ShowsText(control->kind)) {
         control->text = ToQt(text);
         ShowText(*control->widget, control->kind, control->text);
     }
@@ -103,7 +104,7 @@ std::string CQtView::GetText(ControlId id) const {
         return FromQt(field->text());
     }
     const Control* const control = Find(id);
-    return control && HasText(control->kind) ? FromQt(control->text) : std::string();
+    return control && panel::ShowsText(control->kind) ? FromQt(control->text) : std::string();
 }
 
 void CQtView::SetEnabled(ControlId id, bool enabled) {

@@ -7,7 +7,6 @@
 #include <limits>
 #include <optional>
 #include <set>
-#include <string_view>
 #include <utility>
 #include <vector>
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "panel/control/ControlKinds.h"
 #include "panel/control/DialogTemplate.h"
 
 #include <array>
@@ -14,13 +15,6 @@ inline constexpr std::uint32_t kOverviewTopic = 1;
 inline constexpr std::uint32_t kPhoneFileUploadTopic = 1116;
 inline constexpr std::uint32_t kSelfTestTopic = 1201;
 inline constexpr std::uint32_t kNetworkTopic = 1203;
-
-/// Whether a control of that kind can have the focus, and so be asked about.
-constexpr bool CanHaveFocus(ControlKind kind) {
-    return kind != ControlKind::GroupBox && kind != ControlKind::Label &&
-           kind != ControlKind::CentredLabel && kind != ControlKind::Icon &&
-           kind != ControlKind::ProgressBar;
-}
 
 /// The controls of a dialog with a topic for each that can have the focus: its own, where the table
 /// names none.

@@ -1,5 +1,7 @@
 #include "panel/device/DeviceEvents.h"
 
+#include "panel/control/OutputArea.h"
+#include "panel/control/PanelState.h"
 #include "panel/control/Trace.h"
 #include "panel/control/Utf8.h"
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "panel/control/OutputArea.h"
 #include "panel/control/PanelServices.h"
-#include "panel/control/PanelState.h"
+#include "panel/device/DeviceMode.h"
 
 #include <cstdint>
 #include <string>

@@ -4,11 +4,7 @@
 #include "panel/control/PanelServices.h"
 #include "panel/info/ReportLines.h"
 
-#include <memory>
-
-namespace contract {
-class ISoftwareInfo;
-}
+#include <string_view>
 
 namespace panel {
 

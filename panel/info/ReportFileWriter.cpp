@@ -1,6 +1,5 @@
 #include "panel/info/ReportFileWriter.h"
 
-#include "contract/ErrorInfo.h"
 #include "panel/control/FileDialog.h"
 #include "panel/control/OutputArea.h"
 #include "panel/control/StringTable.h"

@@ -99,10 +99,11 @@ bool CNetworkConfiguration::Write(const Control& control, const NetworkChoice& c
                   StringId::ConfigurationWriteFailed);
 }
 
-bool CNetworkConfiguration::ReadBack(const Control& control) {
+void CNetworkConfiguration::ReadBack(const Control& control) {
     Configuration configuration;
-    return ObtainConfiguration(control, configuration) &&
-           Passes(ReadValues(configuration), StringId::ConfigurationReadFailed);
+    if (ObtainConfiguration(control, configuration)) {
+        Passes(ReadValues(configuration), StringId::ConfigurationReadFailed);
+    }
 }
 
 bool CNetworkConfiguration::ObtainConfiguration(const Control& control,

@@ -36,7 +36,7 @@ private:
     void Apply(const NetworkChoice& choice);
     bool Format(const Control& control, const NetworkChoice& choice);
     bool Write(const Control& control, const NetworkChoice& choice, bool isAddressNew);
-    bool ReadBack(const Control& control);
+    void ReadBack(const Control& control);
     void BringBackMedia(const NetworkChoice& choice);
     bool ObtainConfiguration(const Control& control, Configuration& configuration);
     contract::Status ReadValues(const Configuration& configuration);

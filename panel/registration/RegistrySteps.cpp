@@ -1,7 +1,6 @@
 #include "panel/registration/RegistrySteps.h"
 
 #include <string_view>
-#include <utility>
 
 namespace panel {
 

@@ -37,18 +37,16 @@ std::uint32_t CRegUpdate::GetRegDwValue(const std::string& name) {
     return number;
 }
 
-int CRegUpdate::Read(const char* function, const std::string& name, std::size_t capacity,
-                     std::string& bytes) {
+void CRegUpdate::Read(const char* function, const std::string& name, std::size_t capacity,
+                      std::string& bytes) {
     std::unique_ptr<IRegistryKey> key;
     if (const int error = m_toolkit.Registry().OpenKey(kUpdateSettingsKey, key)) {
         Trace(m_toolkit, "%s: Reg.Key open failed, error %ld\n", function, long{error});
-        return error;
+        return;
     }
-    const int error = key->ReadValue(name, capacity, bytes);
-    if (error) {
+    if (const int error = key->ReadValue(name, capacity, bytes)) {
         Trace(m_toolkit, "%s: Reg. value reading failed, error %ld\n", function, long{error});
     }
-    return error;
 }
 
 void CRegUpdate::SetRegValue(const std::string& name, const std::string& text) {

@@ -47,8 +47,8 @@ public:
                                                  bool startInPackageFolder);
 
 private:
-    int Read(const char* function, const std::string& name, std::size_t capacity,
-             std::string& bytes);
+    void Read(const char* function, const std::string& name, std::size_t capacity,
+              std::string& bytes);
     template <class Write>
     void WriteToKey(Write write);
 

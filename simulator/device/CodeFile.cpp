@@ -8,7 +8,6 @@
 #include "simulator/folder/MessageText.h"
 #include "simulator/folder/SystemPath.h"
 
-#include <iterator>
 #include <map>
 #include <string_view>
 

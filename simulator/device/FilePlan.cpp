@@ -12,9 +12,6 @@ namespace {
 
 using Files = std::vector<StoredFile>;
 
-/// The part of an identifier that addresses a file, together with its type.
-constexpr std::int32_t AddressOf(std::int32_t id) { return id & 0xFFFF; }
-
 constexpr const char* kLocationNames[] = {"RAM", "flash memory", "the memory card"};
 
 std::int64_t TotalBytes(const DeviceDescription& device, std::int32_t location) {
@@ -43,7 +40,7 @@ Files::iterator FindNamesake(Files& files, const PhoneFile& file) {
 
 Files::iterator FindAt(Files& files, std::int32_t type, std::int32_t id) {
     return std::find_if(files.begin(), files.end(), [&](const StoredFile& stored) {
-        return stored.type == type && AddressOf(stored.id) == AddressOf(id);
+        return stored.type == type && AddressingPart(stored.id) == AddressingPart(id);
     });
 }
 
@@ -52,7 +49,7 @@ std::optional<std::int32_t> UnusedId(const Files& files, std::int32_t type) {
     std::vector<bool> isUsed(0x10000);
     for (const auto& file : files) {
         if (file.type == type) {
-            isUsed[static_cast<std::size_t>(AddressOf(file.id))] = true;
+            isUsed[static_cast<std::size_t>(AddressingPart(file.id))] = true;
         }
     }
     const auto highest = std::find(isUsed.rbegin(), isUsed.rend(), true);
@@ -208,7 +205,7 @@ std::variant<DeviceDescription, Failure> PlanMove(DeviceDescription device, std:
     }
     const auto location = static_cast<std::int32_t>(destination);
     const auto isMeant = [&](const StoredFile& file) {
-        return (type == 0 || file.type == type) && AddressOf(file.id) == AddressOf(id);
+        return (type == 0 || file.type == type) && AddressingPart(file.id) == AddressingPart(id);
     };
     auto& files = device.files;
     if (std::none_of(files.begin(), files.end(), isMeant)) {

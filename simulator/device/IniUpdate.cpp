@@ -135,7 +135,7 @@ private:
 
     static bool HasVersionFileId(const DeviceDescription& state) {
         return std::any_of(state.files.begin(), state.files.end(), [](const StoredFile& stored) {
-            return stored.type == kMcuSoftware && (stored.id & 0xFFFF) == kVersionFileId;
+            return stored.type == kMcuSoftware && AddressingPart(stored.id) == kVersionFileId;
         });
     }
 

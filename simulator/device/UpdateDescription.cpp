@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <fstream>
 #include <iterator>
 #include <system_error>

@@ -3,7 +3,6 @@
 #include "simulator/Failure.h"
 #include "simulator/device/FilePlan.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>

@@ -1,6 +1,5 @@
 #include "simulator/device/VersionText.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,5 @@
 #include "simulator/folder/AddressText.h"
 
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>

@@ -28,7 +28,7 @@ struct DescriptionDocument {
 
 /// One value of a device description, and how it is read: each reading either yields a value that
 /// is right or throws a DescriptionError that names the key, its line and what would be right. The
-/// exceptions end in ReadDeviceFolder. The document outlives the node.
+/// exceptions end in the functions of simulator/DeviceFolder.h. The document outlives the node.
 class CDescriptionNode {
 public:
     explicit CDescriptionNode(const DescriptionDocument& document)

@@ -10,8 +10,6 @@
 #include <iterator>
 #include <map>
 #include <string>
-#include <string_view>
-#include <utility>
 
 namespace simulator {
 

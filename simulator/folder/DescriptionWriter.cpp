@@ -6,7 +6,6 @@
 #include <nlohmann/json.hpp>
 
 #include <array>
-#include <cstddef>
 #include <cstdio>
 #include <iterator>
 #include <span>

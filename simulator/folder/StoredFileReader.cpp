@@ -11,7 +11,6 @@
 #include <limits>
 #include <map>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -97,8 +96,8 @@ std::vector<StoredFile> ReadStoredFiles(const CDescriptionNode& list, const Path
     CFirstUse<std::string> contents;
     list.ForEachElement([&](const CDescriptionNode& node) {
         auto file = ReadStoredFile(node);
-        // The panel addresses a file by its type and the low 16 bits of its identifier.
-        if (const auto* first = addresses.Claim({file.type, file.id & 0xFFFF}, node.QuotedName())) {
+        const std::pair address(file.type, AddressingPart(file.id));
+        if (const auto* first = addresses.Claim(address, node.QuotedName())) {
             node.Refuse("has the type and the identifier (low 16 bits) of " + *first);
         }
         if (const auto* first = contents.Claim(FileNameKey(file.content), node.QuotedName())) {

@@ -12,15 +12,10 @@ std::shared_ptr<CKnobs> CKnobs::Create(const std::shared_ptr<CDevice>& device,
                                        const std::shared_ptr<CHostConnection>& connection,
                                        interception::CLatency::Sleep sleep) {
     const auto& description = device->Description();
-    if (description.faults.empty() && !description.loss && description.latency.defaultMs == 0 &&
-        description.latency.operationsMs.empty()) {
+    if (description.faults.empty() && !description.loss && description.latency == Latency()) {
         return nullptr;
     }
-    auto knobs = std::make_shared<CKnobs>(device, slot, connection, std::move(sleep));
-    if (description.loss) {
-        knobs->AddLoss(*description.loss);
-    }
-    return knobs;
+    return std::make_shared<CKnobs>(device, slot, connection, std::move(sleep));
 }
 
 CKnobs::CKnobs(std::shared_ptr<CDevice> device, std::weak_ptr<CDeviceSlot> slot,
@@ -29,9 +24,13 @@ CKnobs::CKnobs(std::shared_ptr<CDevice> device, std::weak_ptr<CDeviceSlot> slot,
       m_slot(std::move(slot)),
       m_connection(std::move(connection)),
       m_latency(std::move(sleep)) {
-    SetLatency(m_device->Description().latency);
-    for (const auto& fault : m_device->Description().faults) {
+    const auto& description = m_device->Description();
+    SetLatency(description.latency);
+    for (const auto& fault : description.faults) {
         AddFault(fault);
+    }
+    if (description.loss) {
+        AddLoss(*description.loss);
     }
 }
 

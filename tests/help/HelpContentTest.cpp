@@ -1,4 +1,5 @@
 #include "frontend/help/HelpFile.h"
+#include "panel/control/ControlKinds.h"
 #include "panel/control/HelpTopics.h"
 #include "panel/control/PanelTemplate.h"
 #include "panel/control/StringTable.h"
