@@ -40,6 +40,10 @@ TEST(Utf8Test, CutToBytesCutsForeignBytesAtTheLimit) {
               "a\xA9");
 }
 
+TEST(Utf8Test, CutToBytesKeepsACharacterThatEndsWhereForeignBytesBegin) {
+    EXPECT_EQ(CutToBytes("\xC3\xA9\xA9", 2), "\xC3\xA9");
+}
+
 TEST(Utf8Test, CutToUtf16UnitsCountsSurrogatePairsTwice) {
     EXPECT_EQ(CutToUtf16Units("a\u20AC\U0001F600z", 1), "a");
     EXPECT_EQ(CutToUtf16Units("a\u20AC\U0001F600z", 3), "a\u20AC");

@@ -43,6 +43,15 @@ TEST(RegistryScriptTest, BracesOfAnIdentifierBelongToTheName) {
     EXPECT_EQ(root->keys[0].text, "{2C}");
 }
 
+TEST(RegistryScriptTest, OnlyBlanksEndAPlainWord) {
+    const auto root = ParseRegistryScript("HKCR { A~1\tB.2\r\nC-3 }");
+    ASSERT_TRUE(root);
+    ASSERT_EQ(root->keys.size(), 3u);
+    EXPECT_EQ(root->keys[0].name, "A~1");
+    EXPECT_EQ(root->keys[1].name, "B.2");
+    EXPECT_EQ(root->keys[2].name, "C-3");
+}
+
 TEST(RegistryScriptTest, ApostrophesMakeANameOfAnything) {
     const auto root = ParseRegistryScript("HKCR { 'val' = s 'it''s'' { = }' 'two words' '' }");
     ASSERT_TRUE(root);
