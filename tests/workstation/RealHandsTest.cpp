@@ -17,7 +17,6 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -139,9 +138,7 @@ protected:
     void ExpectFileDialog(const std::string& path) {
         m_prompts.Expect<QFileDialog>([this, path](QFileDialog& dialog) {
             m_hands.Activate(dialog);
-            m_hands.Click(*dialog.findChild<QLineEdit*>("fileNameEdit"));
-            m_hands.PressKey("ctrl+a");
-            m_hands.Type(QString::fromStdString(path));
+            m_hands.TypeFileName(dialog, QString::fromStdString(path));
             m_hands.PressKey("Return");
         });
     }

@@ -1,5 +1,6 @@
 #include "tests/frontend/qt/RealHands.h"
 
+#include <QLineEdit>
 #include <QProcess>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -41,6 +42,16 @@ void CRealHands::ClickHolding(const QString& key, const QWidget& widget, QPoint 
 void CRealHands::PressKey(const QString& key) const { Run({"key", key}); }
 
 void CRealHands::Type(const QString& text) const { Run({"type", text}); }
+
+void CRealHands::TypeFileName(const QFileDialog& dialog, const QString& path) const {
+    auto& name = *dialog.findChild<QLineEdit*>("fileNameEdit");
+    // The toolkit offers names of files once it has read the folder. A key that comes just then
+    // goes into closing that list.
+    name.setCompleter(nullptr);
+    Click(name);
+    PressKey("ctrl+a");
+    Type(path);
+}
 
 // As a client of its own: xdotool has no such request, and destroys the window instead.
 void CRealHands::RequestClose(const QWidget& window) const {

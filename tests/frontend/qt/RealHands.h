@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileDialog>
 #include <QStringList>
 #include <QWidget>
 
@@ -21,6 +22,8 @@ public:
     void PressKey(const QString& key) const;
     /// Types letters, digits and signs.
     void Type(const QString& text) const;
+    /// Types it in the place of the name that an active file dialog shows.
+    void TypeFileName(const QFileDialog& dialog, const QString& path) const;
     /// Asks a window to close, as window managers do for Alt+F4 and for the button in its title.
     void RequestClose(const QWidget& window) const;
     /// Makes a window the active one, as a click on its title would if there were a window manager.

@@ -52,9 +52,7 @@ protected:
 
     void TypeFileName(QFileDialog& dialog, const std::string& path) {
         m_hands.Activate(dialog);
-        m_hands.Click(*dialog.findChild<QLineEdit*>("fileNameEdit"));
-        m_hands.PressKey("ctrl+a");
-        m_hands.Type(QString::fromStdString(path));
+        m_hands.TypeFileName(dialog, QString::fromStdString(path));
     }
 
     void ExpectFileDialog(const std::string& path) {
@@ -64,16 +62,13 @@ protected:
         });
     }
 
-    /// Goes from control to control until it is there. A tab may also go into closing the list of
-    /// file names that the toolkit offers below a name, if it has read the folder by then.
+    /// Goes from control to control until it is there.
     void TabTo(const QWidget& widget) {
-        constexpr int kTabs = 30;
-        constexpr int kLongestMs = 2000;
-        for (int i = 0; i < kTabs && !widget.hasFocus(); ++i) {
+        constexpr int kControls = 20;
+        for (int i = 0; i < kControls && !widget.hasFocus(); ++i) {
             const QPointer<QWidget> from = QApplication::focusWidget();
             m_hands.PressKey("Tab");
-            static_cast<void>(
-                QTest::qWaitFor([&] { return QApplication::focusWidget() != from; }, kLongestMs));
+            ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() != from; }));
         }
         EXPECT_TRUE(widget.hasFocus());
     }
