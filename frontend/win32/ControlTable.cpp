@@ -41,17 +41,6 @@ ControlId CControlTable::FindId(HWND window) const {
     return control && control->window == window ? id : panel::kNoControl;
 }
 
-bool HasText(ControlKind kind) {
-    switch (kind) {
-    case ControlKind::GroupBox:
-    case ControlKind::Label:
-    case ControlKind::CentredLabel:
-        return true;
-    default:
-        return IsField(kind) || SendsCommands(kind);
-    }
-}
-
 bool IsField(ControlKind kind) {
     return kind == ControlKind::TextField || kind == ControlKind::NumberField ||
            kind == ControlKind::EditField;

@@ -34,8 +34,6 @@ private:
     std::unordered_map<panel::ControlId, Control> m_controls;
 };
 
-/// Whether a control of that kind shows one text, as IView::SetText sets it.
-bool HasText(panel::ControlKind kind);
 bool IsField(panel::ControlKind kind);
 bool IsList(panel::ControlKind kind);
 /// Whether pressing it is a command.

@@ -5,6 +5,7 @@
 #include "frontend/win32/Placement.h"
 #include "frontend/win32/Text.h"
 #include "frontend/win32/ViewWindow.h"
+#include "panel/control/ControlKinds.h"
 
 #include <utility>
 
@@ -56,7 +57,7 @@ ControlId CWin32View::Capture(ControlId id) { return Find(id) ? id : panel::kNoC
 // Fields keep no mark: what they hold is shown as it is in any case.
 void CWin32View::SetText(ControlId id, std::string_view text) {
     CControlTable::Control* const control = Find(id) ? m_window->Controls().Find(id) : nullptr;
-    if (control && HasText(control->kind)) {
+    if (control && panel::ShowsText(control->kind)) {
         const std::wstring wide = ToWide(text);
         control->text = FromWide(wide);
         SetWindowTextW(control->window,
@@ -74,7 +75,7 @@ std::string CWin32View::GetText(ControlId id) const {
     if (IsField(control->kind) || control->kind == ControlKind::Log) {
         return GetWindowTextOf(control->window);
     }
-    return HasText(control->kind) ? control->text : std::string();
+    return panel::ShowsText(control->kind) ? control->text : std::string();
 }
 
 void CWin32View::SetEnabled(ControlId id, bool enabled) {
